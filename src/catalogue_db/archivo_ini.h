@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+
+// The installation's configuration: a small INI text ("[section]" lines, "key=value" lines, ';'
+// or '#' comments). Section and key names are compared without regard to letter case.
+class ArchivoIni {
+ public:
+  ArchivoIni() = default;
+  static ArchivoIni Leer(const QString& ruta);  // a missing file gives an empty configuration
+  static ArchivoIni DesdeTexto(const QString& texto);
+
+  QString valor(const QString& seccion, const QString& clave, const QString& defecto = {}) const;
+  bool tieneSeccion(const QString& seccion) const;
+  QStringList secciones() const;  // names as written, in the order they were written
+  QStringList claves(const QString& seccion) const;  // in the order they were written
+  const QString& ruta() const { return ruta_; }
+
+ private:
+  struct Seccion {
+    QStringList orden;
+    QMap<QString, QString> valores;  // key in lower case
+  };
+  QMap<QString, Seccion> secciones_;  // name in lower case
+  QStringList ordenSecciones_;
+  QString ruta_;
+};

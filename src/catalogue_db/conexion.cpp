@@ -1,0 +1,199 @@
+#include "conexion.h"
+
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlite3.h>
+
+#include <QAtomicInt>
+#include <QFileInfo>
+#include <QSqlDriver>
+#include <QSqlError>
+
+#include "error_bd.h"
+#include "val.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QAtomicInt g_contador;
+
+void FuncionVal(sqlite3_context* contexto, int, sqlite3_value** argumentos) {
+  if (sqlite3_value_type(argumentos[0]) == SQLITE_NULL) {
+    sqlite3_result_null(contexto);
+    return;
+  }
+  const auto* texto = reinterpret_cast<const char*>(sqlite3_value_text(argumentos[0]));
+  sqlite3_result_double(contexto, ValJet(QString::fromUtf8(texto ? texto : "")));
+}
+
+QString InformacionOdbc(QSqlDatabase& bd, SQLUSMALLINT dato) {
+  const QVariant h = bd.driver()->handle();
+  if (qstrcmp(h.typeName(), "SQLHANDLE") != 0) return {};
+  SQLHANDLE hdbc = *static_cast<const SQLHANDLE*>(h.data());
+  if (!hdbc) return {};
+  SQLCHAR buffer[512] = {};
+  SQLSMALLINT largo = 0;
+  if (!SQL_SUCCEEDED(SQLGetInfo(hdbc, dato, buffer, sizeof(buffer), &largo))) return {};
+  return QString::fromUtf8(reinterpret_cast<const char*>(buffer));
+}
+
+QString SinExtension(const QString& ruta) {
+  const QFileInfo info(ruta);
+  if (info.suffix().isEmpty()) return ruta;
+  return ruta.left(ruta.size() - info.suffix().size() - 1);
+}
+
+}  // namespace
+
+QString DescripcionError(const QSqlError& error) {
+  const QString bd = error.databaseText().trimmed();
+  return bd.isEmpty() ? error.driverText().trimmed() : bd;
+}
+
+Conexion::Conexion() : nombre_(u"conexion%1"_s.arg(g_contador.fetchAndAddRelaxed(1))) {}
+
+Conexion::~Conexion() { cerrar(); }
+
+void Conexion::cerrar() {
+  if (bd_.isValid()) {
+    bd_.close();
+    bd_ = QSqlDatabase();
+    QSqlDatabase::removeDatabase(nombre_);
+  }
+}
+
+bool Conexion::abierta() const { return bd_.isValid() && bd_.isOpen(); }
+
+void Conexion::fallar(const QString& descripcion) {
+  const QString texto = descripcion;
+  cerrar();
+  throw ErrorBD(texto);
+}
+
+void Conexion::abrirSQLite(const QString& archivo) {
+  cerrar();
+  bd_ = QSqlDatabase::addDatabase(u"QSQLITE"_s, nombre_);
+  bd_.setDatabaseName(archivo);
+  bd_.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=10000"_s);
+  if (!bd_.open()) fallar(DescripcionError(bd_.lastError()));
+  despuesDeAbrir(QFileInfo(archivo).absoluteFilePath());
+}
+
+void Conexion::abrir(const QString& cadena, const OrigenesDatos& origenes) {
+  cerrar();
+  const QMap<QString, QString> pares = ParesDeCadena(cadena);
+  const OrigenDatos* origen = pares.contains(u"dsn"_s) ? origenes.buscar(pares.value(u"dsn"_s))
+                                                        : nullptr;
+  if (origen && origen->tipo == OrigenDatos::Tipo::SQLite) {
+    if (!QFileInfo::exists(origen->archivo)) {
+      throw ErrorBD(u"No se encuentra el archivo de base de datos %1"_s.arg(origen->archivo));
+    }
+    abrirSQLite(origen->archivo);
+    return;
+  }
+  if (origen && origen->tipo == OrigenDatos::Tipo::PostgreSQL) {
+    bd_ = QSqlDatabase::addDatabase(u"QPSQL"_s, nombre_);
+    bd_.setHostName(origen->servidor);
+    bd_.setPort(origen->puerto);
+    bd_.setDatabaseName(origen->baseDatos);
+    bd_.setUserName(origen->usuario);
+    bd_.setPassword(origen->clave.isEmpty() ? pares.value(u"pwd"_s) : origen->clave);
+    if (!bd_.open()) fallar(DescripcionError(bd_.lastError()));
+    despuesDeAbrir({});
+    return;
+  }
+  // Qt's ODBC driver puts "DSN=" in front of the string itself unless it names a driver.
+  QString texto = cadena;
+  const QString inicio = texto.trimmed().left(4);
+  if (inicio.compare(u"dsn="_s, Qt::CaseInsensitive) == 0) texto = texto.trimmed().mid(4);
+  bd_ = QSqlDatabase::addDatabase(u"QODBC"_s, nombre_);
+  bd_.setDatabaseName(texto);
+  if (!bd_.open()) fallar(DescripcionError(bd_.lastError()));
+  despuesDeAbrir({});
+}
+
+void Conexion::despuesDeAbrir(const QString& rutaArchivo) {
+  const QString driver = bd_.driverName();
+  if (driver == u"QSQLITE"_s) {
+    motor_ = Motor::SQLite;
+    rutaPredeterminada_ = SinExtension(rutaArchivo);
+    const QVariant h = bd_.driver()->handle();
+    if (qstrcmp(h.typeName(), "sqlite3*") == 0) {
+      sqlite3* manejador = *static_cast<sqlite3* const*>(h.data());
+      if (manejador) {
+        sqlite3_create_function(manejador, "val", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                &FuncionVal, nullptr, nullptr);
+      }
+    }
+  } else if (driver == u"QPSQL"_s) {
+    motor_ = Motor::PostgreSQL;
+    rutaPredeterminada_ = bd_.databaseName();
+  } else {
+    const QString dbms = InformacionOdbc(bd_, SQL_DBMS_NAME);
+    if (dbms.contains(u"SQLite"_s, Qt::CaseInsensitive)) {
+      motor_ = Motor::SQLiteODBC;
+    } else if (dbms.contains(u"PostgreSQL"_s, Qt::CaseInsensitive)) {
+      motor_ = Motor::PostgreSQL;
+    } else {
+      motor_ = Motor::Access;
+    }
+    const QString nombre = InformacionOdbc(bd_, SQL_DATABASE_NAME);
+    rutaPredeterminada_ = motor_ == Motor::PostgreSQL ? nombre : SinExtension(nombre);
+  }
+}
+
+QSqlQuery Conexion::preparar(const QString& sentencia) {
+  if (!abierta()) throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
+  if (TieneSegundaSentencia(sentencia)) {
+    throw ErrorBD(u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
+  }
+  QSqlQuery q(bd_);
+  q.setForwardOnly(true);
+  if (!q.prepare(AdaptarSentencia(sentencia, motor_))) throw ErrorBD(DescripcionError(q.lastError()));
+  return q;
+}
+
+int Conexion::ejecutar(const QString& sentencia) {
+  QSqlQuery q = preparar(sentencia);
+  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  return q.numRowsAffected();
+}
+
+QSqlQuery Conexion::consultar(const QString& sentencia) {
+  QSqlQuery q = preparar(sentencia);
+  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  return q;
+}
+
+void Conexion::ejecutarDirecto(const QString& sentencia) {
+  if (!abierta()) throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
+  if (TieneSegundaSentencia(sentencia)) {
+    throw ErrorBD(u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
+  }
+  QSqlQuery q(bd_);
+  if (!q.exec(sentencia)) throw ErrorBD(DescripcionError(q.lastError()));
+}
+
+void Conexion::comenzarTransaccion() {
+  if (!abierta() || !bd_.transaction()) throw ErrorBD(DescripcionError(bd_.lastError()));
+}
+
+void Conexion::confirmarTransaccion() {
+  if (!bd_.commit()) throw ErrorBD(DescripcionError(bd_.lastError()));
+}
+
+void Conexion::deshacerTransaccion() { bd_.rollback(); }
+
+Transaccion::Transaccion(Conexion& conexion) : conexion_(conexion) {
+  conexion_.comenzarTransaccion();
+}
+
+Transaccion::~Transaccion() {
+  if (!terminada_) conexion_.deshacerTransaccion();
+}
+
+void Transaccion::confirmar() {
+  conexion_.confirmarTransaccion();
+  terminada_ = true;
+}

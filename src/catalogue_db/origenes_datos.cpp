@@ -1,0 +1,65 @@
+#include "origenes_datos.h"
+
+#include <QDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+OrigenesDatos OrigenesDatos::DesdeIni(const ArchivoIni& ini, const QString& carpetaBase) {
+  OrigenesDatos origenes;
+  for (const QString& seccion : ini.secciones()) {
+    const QStringList partes = seccion.split(u' ', Qt::SkipEmptyParts);
+    if (partes.size() != 2 || partes.at(0).compare(u"dsn"_s, Qt::CaseInsensitive) != 0) continue;
+    OrigenDatos o;
+    const QString tipo = ini.valor(seccion, u"tipo"_s).toLower();
+    if (tipo == u"sqlite"_s) {
+      o.tipo = OrigenDatos::Tipo::SQLite;
+      o.archivo = QDir(carpetaBase).absoluteFilePath(ini.valor(seccion, u"archivo"_s));
+    } else if (tipo == u"postgresql"_s) {
+      o.tipo = OrigenDatos::Tipo::PostgreSQL;
+      o.servidor = ini.valor(seccion, u"servidor"_s, u"localhost"_s);
+      o.puerto = ini.valor(seccion, u"puerto"_s, u"5432"_s).toInt();
+      o.baseDatos = ini.valor(seccion, u"basedatos"_s, partes.at(1));
+      o.usuario = ini.valor(seccion, u"usuario"_s);
+      o.clave = ini.valor(seccion, u"clave"_s);
+    } else {
+      continue;  // "odbc" or unknown: the name goes to ODBC as given
+    }
+    origenes.mapear(partes.at(1), o);
+  }
+  return origenes;
+}
+
+void OrigenesDatos::mapear(const QString& dsn, const OrigenDatos& origen) {
+  mapa_.insert(dsn.toLower(), origen);
+}
+
+const OrigenDatos* OrigenesDatos::buscar(const QString& dsn) const {
+  const auto it = mapa_.constFind(dsn.toLower());
+  return it == mapa_.constEnd() ? nullptr : &it.value();
+}
+
+QMap<QString, QString> ParesDeCadena(const QString& cadena) {
+  QMap<QString, QString> pares;
+  qsizetype i = 0;
+  while (i < cadena.size()) {
+    const qsizetype igual = cadena.indexOf(u'=', i);
+    if (igual < 0) break;
+    const QString clave = cadena.mid(i, igual - i).trimmed().toLower();
+    qsizetype j = igual + 1;
+    QString valor;
+    if (j < cadena.size() && cadena.at(j) == u'{') {
+      const qsizetype cierre = cadena.indexOf(u'}', j);
+      valor = cadena.mid(j + 1, (cierre < 0 ? cadena.size() : cierre) - j - 1);
+      j = cierre < 0 ? cadena.size() : cierre + 1;
+      const qsizetype pc = cadena.indexOf(u';', j);
+      j = pc < 0 ? cadena.size() : pc + 1;
+    } else {
+      const qsizetype pc = cadena.indexOf(u';', j);
+      valor = cadena.mid(j, (pc < 0 ? cadena.size() : pc) - j);
+      j = pc < 0 ? cadena.size() : pc + 1;
+    }
+    if (!clave.isEmpty()) pares.insert(clave, valor);
+    i = j;
+  }
+  return pares;
+}

@@ -1,0 +1,304 @@
+#include "recordset.h"
+
+#include <cmath>
+
+#include <QDate>
+#include <QRegularExpression>
+#include <QSqlError>
+#include <QSqlField>
+#include <QSqlQuery>
+
+#include "conexion.h"
+#include "error_bd.h"
+#include "esquema.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kSinFilaActual =
+    u"BOF o EOF es True, o el registro actual se ha eliminado. La operación solicitada requiere "
+    "un registro actual."_s;
+
+}  // namespace
+
+Recordset::Recordset(Conexion& conexion, const QString& sentencia)
+    : conexion_(&conexion), sentencia_(sentencia) {
+  leer();
+}
+
+void Recordset::leer() {
+  QSqlQuery q = conexion_->consultar(sentencia_);
+  campos_ = q.record();
+  filas_.clear();
+  while (q.next()) {
+    Fila f;
+    f.valores.reserve(campos_.count());
+    for (int i = 0; i < campos_.count(); ++i) f.valores.append(q.value(i));
+    filas_.append(std::move(f));
+  }
+  abierto_ = true;
+  edicion_ = Edicion::Ninguna;
+  posicion_ = filas_.isEmpty() ? 0 : 0;
+}
+
+void Recordset::comprobarAbierto() const {
+  if (!abierto_) throw ErrorBD(u"La operación no está permitida si el objeto está cerrado."_s);
+}
+
+int Recordset::recordCount() const {
+  comprobarAbierto();
+  int n = 0;
+  for (const Fila& f : filas_) n += f.borrada ? 0 : 1;
+  return n;
+}
+
+bool Recordset::bof() const {
+  comprobarAbierto();
+  return posicion_ < 0 || recordCount() == 0;
+}
+
+bool Recordset::eof() const {
+  comprobarAbierto();
+  return posicion_ >= filas_.size() || recordCount() == 0;
+}
+
+int Recordset::siguienteViva(int desde, int paso) const {
+  int i = desde;
+  while (i >= 0 && i < filas_.size() && filas_.at(i).borrada) i += paso;
+  return i;
+}
+
+void Recordset::moveFirst() {
+  comprobarAbierto();
+  if (edicion_ != Edicion::Ninguna) update();
+  if (recordCount() == 0) throw ErrorBD(kSinFilaActual);
+  posicion_ = siguienteViva(0, 1);
+}
+
+void Recordset::moveLast() {
+  comprobarAbierto();
+  if (edicion_ != Edicion::Ninguna) update();
+  if (recordCount() == 0) throw ErrorBD(kSinFilaActual);
+  posicion_ = siguienteViva(filas_.size() - 1, -1);
+}
+
+void Recordset::moveNext() {
+  comprobarAbierto();
+  if (edicion_ != Edicion::Ninguna) update();
+  if (eof()) throw ErrorBD(kSinFilaActual);
+  posicion_ = siguienteViva(posicion_ + 1, 1);
+  if (posicion_ > filas_.size()) posicion_ = filas_.size();
+}
+
+void Recordset::movePrevious() {
+  comprobarAbierto();
+  if (edicion_ != Edicion::Ninguna) update();
+  if (bof()) throw ErrorBD(kSinFilaActual);
+  posicion_ = siguienteViva(posicion_ - 1, -1);
+  if (posicion_ < -1) posicion_ = -1;
+}
+
+const Recordset::Fila& Recordset::filaActual() const {
+  comprobarAbierto();
+  if (posicion_ < 0 || posicion_ >= filas_.size() || filas_.at(posicion_).borrada) {
+    throw ErrorBD(kSinFilaActual);
+  }
+  return filas_.at(posicion_);
+}
+
+int Recordset::indiceCampo(const QString& nombre) const {
+  for (int i = 0; i < campos_.count(); ++i) {
+    if (campos_.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0) return i;
+  }
+  throw ErrorBD(
+      u"No se encontró el elemento en la colección que corresponde con el nombre o el ordinal "
+      "solicitado: %1"_s.arg(nombre));
+}
+
+QVariant Recordset::field(const QString& nombre) const { return field(indiceCampo(nombre)); }
+
+QVariant Recordset::field(int indice) const {
+  comprobarAbierto();
+  if (indice < 0 || indice >= campos_.count()) {
+    throw ErrorBD(
+        u"No se encontró el elemento en la colección que corresponde con el nombre o el ordinal "
+        "solicitado: %1"_s.arg(indice));
+  }
+  if (edicion_ != Edicion::Ninguna && cambiados_.at(indice)) return buffer_.at(indice);
+  if (edicion_ == Edicion::Nueva) return buffer_.at(indice);
+  return filaActual().valores.at(indice);
+}
+
+void Recordset::addNew() {
+  comprobarAbierto();
+  if (edicion_ != Edicion::Ninguna) update();
+  edicion_ = Edicion::Nueva;
+  buffer_ = QList<QVariant>(campos_.count());
+  cambiados_ = QList<bool>(campos_.count(), false);
+}
+
+void Recordset::setField(const QString& nombre, const QVariant& valor) {
+  const int i = indiceCampo(nombre);
+  if (edicion_ == Edicion::Ninguna) {
+    buffer_ = filaActual().valores;
+    cambiados_ = QList<bool>(campos_.count(), false);
+    edicion_ = Edicion::Cambio;
+  }
+  buffer_[i] = convertirParaColumna(i, valor);
+  cambiados_[i] = true;
+}
+
+QVariant Recordset::convertirParaColumna(int indice, const QVariant& valor) const {
+  if (valor.isNull()) return QVariant(campos_.field(indice).metaType());
+  QMetaType tipo = campos_.field(indice).metaType();
+  // Prefer the schema's type: SQLite reports its declared type only for some names.
+  if (const Tabla* t = BuscarTabla(tablaDestino())) {
+    if (const Columna* c = t->columna(campos_.fieldName(indice))) {
+      switch (c->tipo) {
+        case TipoColumna::Texto:
+          tipo = QMetaType::fromType<QString>();
+          break;
+        case TipoColumna::Entero:
+        case TipoColumna::Booleano:
+          tipo = QMetaType::fromType<int>();
+          break;
+        case TipoColumna::Doble:
+          tipo = QMetaType::fromType<double>();
+          break;
+        case TipoColumna::Fecha:
+          tipo = QMetaType::fromType<QDate>();
+          break;
+      }
+    }
+  }
+  if (!tipo.isValid() || valor.metaType() == tipo) return valor;
+  QVariant v = valor;
+  if (valor.metaType() == QMetaType::fromType<QString>() &&
+      (tipo == QMetaType::fromType<int>() || tipo == QMetaType::fromType<double>() ||
+       tipo == QMetaType::fromType<qlonglong>())) {
+    bool ok = false;
+    const double d = valor.toString().trimmed().toDouble(&ok);
+    if (!ok) {
+      throw ErrorBD(u"El valor «%1» no es válido para el campo %2"_s.arg(
+          valor.toString(), campos_.fieldName(indice)));
+    }
+    v = d;
+  }
+  if (tipo == QMetaType::fromType<int>() && v.metaType() == QMetaType::fromType<double>()) {
+    return QVariant(static_cast<int>(std::llround(v.toDouble())));
+  }
+  if (!v.convert(tipo)) {
+    throw ErrorBD(u"El valor «%1» no es válido para el campo %2"_s.arg(
+        valor.toString(), campos_.fieldName(indice)));
+  }
+  return v;
+}
+
+QString Recordset::tablaDestino() const {
+  // "select ... from NAME [where|order|group|;|end]" with a single table.
+  static const QRegularExpression re(
+      uR"(\bfrom\s+([A-Za-z_][A-Za-z0-9_]*)\s*(?:$|\bwhere\b|\border\b|\bgroup\b))"_s,
+      QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch m = re.match(sentencia_);
+  return m.hasMatch() ? m.captured(1) : QString();
+}
+
+QString Recordset::condicionFila(const Fila& fila, QList<QVariant>& valores) const {
+  const Tabla* t = BuscarTabla(tablaDestino());
+  QStringList partes;
+  for (int i = 0; i < campos_.count(); ++i) {
+    const QString nombre = campos_.fieldName(i);
+    const bool esClave = t && !t->clave.isEmpty()
+                             ? t->clave.contains(nombre, Qt::CaseInsensitive)
+                             : true;
+    if (!esClave) continue;
+    if (fila.valores.at(i).isNull()) {
+      partes.append(nombre + u" is null"_s);
+    } else {
+      partes.append(nombre + u" = ?"_s);
+      valores.append(fila.valores.at(i));
+    }
+  }
+  return partes.join(u" and "_s);
+}
+
+void Recordset::update() {
+  comprobarAbierto();
+  if (edicion_ == Edicion::Ninguna) return;
+  const QString tabla = tablaDestino();
+  if (tabla.isEmpty()) {
+    throw ErrorBD(u"No se puede actualizar: la consulta no tiene una única tabla de origen"_s);
+  }
+  QSqlQuery q(conexion_->bd());
+  QList<QVariant> valores;
+  QString sql;
+  if (edicion_ == Edicion::Nueva) {
+    QStringList columnas, marcas;
+    for (int i = 0; i < campos_.count(); ++i) {
+      if (!cambiados_.at(i)) continue;
+      columnas.append(campos_.fieldName(i));
+      marcas.append(u"?"_s);
+      valores.append(buffer_.at(i));
+    }
+    sql = u"insert into "_s + tabla + u" ("_s + columnas.join(u", "_s) + u") values ("_s +
+          marcas.join(u", "_s) + u')';
+  } else {
+    QStringList asignaciones;
+    for (int i = 0; i < campos_.count(); ++i) {
+      if (!cambiados_.at(i)) continue;
+      asignaciones.append(campos_.fieldName(i) + u" = ?"_s);
+      valores.append(buffer_.at(i));
+    }
+    if (asignaciones.isEmpty()) {
+      edicion_ = Edicion::Ninguna;
+      return;
+    }
+    sql = u"update "_s + tabla + u" set "_s + asignaciones.join(u", "_s) + u" where "_s +
+          condicionFila(filaActual(), valores);
+  }
+  if (!q.prepare(sql)) throw ErrorBD(DescripcionError(q.lastError()));
+  for (const QVariant& v : std::as_const(valores)) q.addBindValue(v);
+  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  if (edicion_ == Edicion::Cambio && q.numRowsAffected() == 0) {
+    throw ErrorBD(
+        u"No se encuentra la fila para actualizar. Es posible que se hayan cambiado algunos "
+        "valores desde la última vez que se leyó."_s);
+  }
+  if (edicion_ == Edicion::Nueva) {
+    filas_.append({buffer_, false});
+    posicion_ = filas_.size() - 1;
+  } else {
+    filas_[posicion_].valores = buffer_;
+  }
+  edicion_ = Edicion::Ninguna;
+}
+
+void Recordset::cancelUpdate() { edicion_ = Edicion::Ninguna; }
+
+void Recordset::deleteRow() {
+  const Fila& fila = filaActual();
+  const QString tabla = tablaDestino();
+  if (tabla.isEmpty()) {
+    throw ErrorBD(u"No se puede eliminar: la consulta no tiene una única tabla de origen"_s);
+  }
+  QList<QVariant> valores;
+  const QString sql = u"delete from "_s + tabla + u" where "_s + condicionFila(fila, valores);
+  QSqlQuery q(conexion_->bd());
+  if (!q.prepare(sql)) throw ErrorBD(DescripcionError(q.lastError()));
+  for (const QVariant& v : std::as_const(valores)) q.addBindValue(v);
+  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  filas_[posicion_].borrada = true;
+  edicion_ = Edicion::Ninguna;
+}
+
+void Recordset::requery() {
+  comprobarAbierto();
+  leer();
+}
+
+void Recordset::close() {
+  abierto_ = false;
+  filas_.clear();
+  edicion_ = Edicion::Ninguna;
+}

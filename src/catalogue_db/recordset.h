@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QList>
+#include <QSqlRecord>
+#include <QString>
+#include <QVariant>
+
+class Conexion;
+
+// A static recordset, as the suite's programs open them: the rows of a statement are read once
+// into memory and walked with the current-row moves; fields are read by name (ignoring letter
+// case) or by position. Rows can be added, changed and deleted; the change is written to the
+// statement's table when update() (or deleteRow()) is called. Failures throw ErrorBD.
+//
+// The table to write is the single table of the statement's from clause; a row is found again
+// by the table's key, or by all its original values when the table has none.
+class Recordset {
+ public:
+  Recordset(Conexion& conexion, const QString& sentencia);
+
+  int recordCount() const;
+  bool bof() const;
+  bool eof() const;
+  void moveFirst();
+  void movePrevious();  // throws at BOF, as the original recordsets do
+  void moveNext();      // throws at EOF
+  void moveLast();
+
+  int fieldCount() const { return campos_.count(); }
+  QString fieldName(int indice) const { return campos_.fieldName(indice); }
+  QVariant field(const QString& nombre) const;
+  QVariant field(int indice) const;
+  bool isNull(const QString& nombre) const { return field(nombre).isNull(); }
+
+  // Starts a new row; set its fields, then update().
+  void addNew();
+  // Sets a field of the new row or of the current row (which starts changing it).
+  void setField(const QString& nombre, const QVariant& valor);
+  void update();
+  void cancelUpdate();
+  // Deletes the current row in the table; it stays current, unreadable, until the next move.
+  void deleteRow();
+  // Reads the statement's rows again; the first row becomes current.
+  void requery();
+  void close();
+  bool isOpen() const { return abierto_; }
+
+  const QString& sentencia() const { return sentencia_; }
+
+ private:
+  enum class Edicion { Ninguna, Nueva, Cambio };
+  struct Fila {
+    QList<QVariant> valores;
+    bool borrada = false;
+  };
+
+  void leer();
+  void comprobarAbierto() const;
+  const Fila& filaActual() const;
+  int indiceCampo(const QString& nombre) const;
+  int siguienteViva(int desde, int paso) const;
+  QString tablaDestino() const;
+  QVariant convertirParaColumna(int indice, const QVariant& valor) const;
+  QString condicionFila(const Fila& fila, QList<QVariant>& valores) const;
+
+  Conexion* conexion_;
+  QString sentencia_;
+  QSqlRecord campos_;
+  QList<Fila> filas_;
+  int posicion_ = 0;  // -1: BOF; filas_.size(): EOF
+  bool abierto_ = false;
+  Edicion edicion_ = Edicion::Ninguna;
+  QList<QVariant> buffer_;
+  QList<bool> cambiados_;
+};

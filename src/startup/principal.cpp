@@ -1,0 +1,192 @@
+#include "principal.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "entorno.h"
+#include "error_bd.h"
+#include "recordset.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kCadenaInformes = u"dsn=informes"_s;
+
+QString LeerInformes(const Entorno& entorno, const QString& sentencia, const QString& campo) {
+  try {
+    Conexion informes;
+    informes.abrir(kCadenaInformes, entorno.instalacion.origenes);
+    Recordset rs(informes, sentencia);
+    QString resultado;
+    if (rs.recordCount() > 0) resultado = rs.field(campo).toString();
+    rs.close();
+    return resultado;
+  } catch (const ErrorBD&) {
+    return {};
+  }
+}
+
+qint16 Entero16(const QVariant& v) { return static_cast<qint16>(v.toInt()); }
+
+}  // namespace
+
+QString ObtenerTipoPrograma(const Entorno& entorno) {
+  return LeerInformes(entorno, u"Select tipoPrograma from listadostemporal"_s, u"tipoPrograma"_s);
+}
+
+QString ObtenerList2(const Entorno& entorno) {
+  return LeerInformes(entorno, u"Select list2 from listadostemporal"_s, u"List2"_s);
+}
+
+QString ObtenerList1(const Entorno& entorno) {
+  return LeerInformes(entorno, u"Select list1 from listadostemporal"_s, u"list1"_s);
+}
+
+QString CadenaConexion(const QString& tipo) {
+  if (tipo == u"RESTAURANTE"_s) return u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s;
+  if (tipo == u"FASTFOOD"_s) return u"dsn=lumbraFastFood;pwd=KorvanitesX%QQRT;"_s;
+  if (tipo == u"COPAS"_s) return u"dsn=lumbraCopas;pwd=KorvanitesX%QQRT;"_s;
+  return {};
+}
+
+void AbrirConexion(Entorno& entorno) {
+  const QString cadena = CadenaConexion(entorno.sesion.TipoProgramaInformes);
+  entorno.ConexionBD = std::make_unique<Conexion>();
+  try {
+    entorno.ConexionBD->abrir(cadena, entorno.instalacion.origenes);
+    return;
+  } catch (const ErrorBD&) {
+  }
+  entorno.ConexionBD = std::make_unique<Conexion>();
+  try {
+    entorno.ConexionBD->abrir(cadena, entorno.instalacion.origenes);
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(u"Base de datos  16"_s, e.descripcion());
+  }
+}
+
+qint32 ObtenerEmpleado(Entorno& entorno) {
+  Recordset rs(*entorno.ConexionBD,
+               u"Select empleado from opciones_terminal where identificador = '"_s +
+                   entorno.sesion.IdentificadorTerminal + u"'"_s);
+  qint32 resultado = 0;
+  if (rs.recordCount() > 0) {
+    const QVariant v = rs.field(u"empleado"_s);
+    resultado = v.isNull() ? -1 : v.toInt();
+  }
+  rs.close();
+  return resultado;
+}
+
+void ObtenerEmpleadoYColor(Entorno& entorno) {
+  Recordset rs(*entorno.ConexionBD,
+               u"SElect empleado,id_color from opciones_terminal where identificador = '"_s +
+                   entorno.sesion.IdentificadorTerminal + u"'"_s);
+  if (rs.recordCount() > 0) {
+    const QVariant empleado = rs.field(u"empleado"_s);
+    const QVariant color = rs.field(u"id_color"_s);
+    entorno.sesion.EmpleadoTerminal = empleado.isNull() ? 0 : empleado.toInt();
+    entorno.sesion.id_color = color.isNull() ? 0 : Entero16(color);
+  }
+  rs.close();
+}
+
+void LeerColorPanelFamilias(Entorno& entorno) {
+  const QString indice = u"opcion_color_panel_familias"_s;
+  Recordset rs(*entorno.ConexionBD,
+               u"select * from relaciones_fijas where indice like 'opcion_color_panel_familias'"_s);
+  if (rs.recordCount() < 1) {
+    entorno.sesion.ColorPanelFamilias = entorno.sesion.modocaja == 1;
+    rs.addNew();
+    rs.setField(u"indice"_s, indice);
+    rs.setField(u"daton"_s, entorno.sesion.ColorPanelFamilias ? -1 : 0);
+    rs.update();
+  } else if (rs.field(u"indice"_s).toString() == indice) {
+    const QVariant daton = rs.field(u"daton"_s);
+    entorno.sesion.ColorPanelFamilias = !daton.isNull() && daton.toInt() != 0;
+  }
+  rs.close();
+}
+
+void AbrirAyuda(Entorno& entorno, QString pagina) {
+  if (pagina.isEmpty()) return;
+  if (!pagina.contains(u"www."_s)) {
+    const QString local =
+        QDir(entorno.instalacion.rutaEnCarpeta(u"ayuda"_s)).filePath(pagina);
+    pagina = QFileInfo::exists(local) ? local : entorno.instalacion.ayudaWeb + pagina;
+  }
+  entorno.dialogos->abrirDocumento(pagina);
+}
+
+void UbicarBaseDeDatos(Entorno& entorno) {
+  Sesion& s = entorno.sesion;
+  const QString ruta = entorno.ConexionBD->rutaPredeterminada();
+  if (ruta.left(1).toUpper() != u"C"_s) {
+    s.BDEnOtraUnidad = true;
+    const QString p = ruta + u".mdb"_s;
+    const qsizetype posicion = p.toLower().indexOf(u"velandria.mdb"_s) + 1;
+    if (posicion - 1 < 0) {
+      throw ErrorEjecucion(u"Error en tiempo de ejecución: la base de datos %1 no se llama "
+                           "velandria; no se puede ubicar la carpeta de fotos"_s.arg(p));
+    }
+    s.RutaFotosBD = p.left(posicion - 1) + u"fotos"_s + QDir::separator();
+  } else {
+    s.BDEnOtraUnidad = false;
+  }
+}
+
+void LeerOpciones(Entorno& entorno) {
+  Sesion& s = entorno.sesion;
+  try {
+    Recordset rs(*entorno.ConexionBD, u"Select * from opciones where identificador = '"_s +
+                                          s.IdentificadorInstalacion + u"'"_s);
+    if (rs.recordCount() > 0) {
+      const QVariant decimales = rs.field(u"numDecimales"_s);
+      s.numDecimales = decimales.isNull() ? 0 : Entero16(decimales);
+      rs.field(u"Terminal"_s);  // read, not kept
+      s.tipo_programa = rs.field(u"tipo_programa"_s).toString();
+      const QVariant fotos = rs.field(u"rutaFotos"_s);
+      if (!fotos.isNull()) s.rutaFotos = fotos.toString();
+      const QVariant idioma = rs.field(u"idioma"_s);
+      s.idioma = idioma.isNull() || idioma.toString().isEmpty() ? u"CASTELLANO"_s
+                                                                 : idioma.toString();
+      const QVariant caja = rs.field(u"modocaja"_s);
+      s.modocaja = caja.isNull() ? qint16(1) : Entero16(caja);
+      s.animacioncaja = rs.field(u"animacioncaja"_s).toInt() == -1;
+    }
+    rs.close();
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(u"opciones  1"_s, e.descripcion());
+  }
+}
+
+void Main(Entorno& entorno, const std::function<void()>& mostrarFormulario) {
+  Sesion& s = entorno.sesion;
+  s.IdentificadorInstalacion = ObtenerList2(entorno);
+  s.IdentificadorLista1 = ObtenerList1(entorno);
+  s.ModoPrograma = -1;
+  s.TipoProgramaInformes = ObtenerTipoPrograma(entorno);
+  if (s.TipoProgramaInformes == u"FASTFOOD"_s) {
+    s.ModoPrograma = 1;
+  } else if (s.TipoProgramaInformes == u"COPAS"_s) {
+    s.ModoPrograma = 4;
+  }
+  s.IdentificadorTerminal = s.IdentificadorInstalacion + s.IdentificadorLista1;
+  QCoreApplication::processEvents();
+  AbrirConexion(entorno);
+  // Without an open connection there is no database path to look at.
+  if (entorno.ConexionBD->abierta()) UbicarBaseDeDatos(entorno);
+  LeerOpciones(entorno);
+  try {
+    LeerColorPanelFamilias(entorno);
+    s.EmpleadoActual = ObtenerEmpleado(entorno);
+    ObtenerEmpleadoYColor(entorno);
+  } catch (const ErrorBD& e) {
+    // Without a usable connection these readers fail; the session keeps its defaults and the
+    // form still opens, so that the manager sees the logged error.
+    entorno.RegistrarError(u"Principal  1"_s, e.descripcion());
+  }
+  mostrarFormulario();
+}
