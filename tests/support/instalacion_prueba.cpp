@@ -1,0 +1,72 @@
+#include "instalacion_prueba.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <stdexcept>
+
+#include "esquema.h"
+#include "recordset.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void CrearBase(const QString& ruta, const QList<Tabla>& tablas) {
+  Conexion c;
+  c.abrirSQLite(ruta);
+  CrearEsquema(c, tablas);
+}
+
+void EjecutarEn(const QString& ruta, const QStringList& sentencias) {
+  Conexion c;
+  c.abrirSQLite(ruta);
+  for (const QString& s : sentencias) c.ejecutar(s);
+}
+
+}  // namespace
+
+InstalacionPrueba::InstalacionPrueba() {
+  if (!dir_.isValid()) throw std::runtime_error("no temporary folder");
+  CrearBase(rutaPrincipal(), TablasPrincipales());
+  CrearBase(rutaInformes(), TablasInformes());
+  QFile ini(QDir(dir_.path()).filePath(u"productos.ini"_s));
+  if (!ini.open(QIODevice::WriteOnly)) throw std::runtime_error("no productos.ini");
+  ini.write("[dsn velandria]\ntipo=sqlite\narchivo=velandria.db\n\n"
+            "[dsn informes]\ntipo=sqlite\narchivo=informes.db\n");
+  ini.close();
+  entorno_ = std::make_unique<Entorno>(Instalacion::Cargar(dir_.path()), dialogos_);
+  entorno_->registro.setMostrar([this](const QString& contexto, const QString& descripcion) {
+    errores_.append({contexto, descripcion});
+  });
+  entorno_->ConexionBD->abrirSQLite(rutaPrincipal());
+}
+
+QString InstalacionPrueba::rutaPrincipal() const { return QDir(dir_.path()).filePath(u"velandria.db"_s); }
+
+QString InstalacionPrueba::rutaInformes() const { return QDir(dir_.path()).filePath(u"informes.db"_s); }
+
+void InstalacionPrueba::ejecutar(const QStringList& sentencias) {
+  for (const QString& s : sentencias) conexion().ejecutar(s);
+}
+
+void InstalacionPrueba::ejecutarEnInformes(const QStringList& sentencias) {
+  EjecutarEn(rutaInformes(), sentencias);
+}
+
+QList<QVariantList> InstalacionPrueba::filas(const QString& consulta) {
+  QList<QVariantList> r;
+  QSqlQuery q = conexion().consultar(consulta);
+  while (q.next()) {
+    QVariantList fila;
+    for (int i = 0; i < q.record().count(); ++i) fila.append(q.value(i));
+    r.append(fila);
+  }
+  return r;
+}
+
+QByteArray InstalacionPrueba::log() const {
+  QFile f(entorno_->registro.rutaLog());
+  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
