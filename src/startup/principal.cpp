@@ -51,17 +51,21 @@ QString CadenaConexion(const QString& tipo) {
   return {};
 }
 
-void AbrirConexion(Entorno& entorno) {
+void AbrirConexion(Entorno& entorno, const AbridorConexion& abridor) {
+  const AbridorConexion abrir =
+      abridor ? abridor : [&entorno](Conexion& conexion, const QString& cadena) {
+        conexion.abrir(cadena, entorno.instalacion.origenes);
+      };
   const QString cadena = CadenaConexion(entorno.sesion.TipoProgramaInformes);
   entorno.ConexionBD = std::make_unique<Conexion>();
   try {
-    entorno.ConexionBD->abrir(cadena, entorno.instalacion.origenes);
+    abrir(*entorno.ConexionBD, cadena);
     return;
   } catch (const ErrorBD&) {
   }
   entorno.ConexionBD = std::make_unique<Conexion>();
   try {
-    entorno.ConexionBD->abrir(cadena, entorno.instalacion.origenes);
+    abrir(*entorno.ConexionBD, cadena);
   } catch (const ErrorBD& e) {
     entorno.RegistrarError(u"Base de datos  16"_s, e.descripcion());
   }
@@ -120,21 +124,25 @@ void AbrirAyuda(Entorno& entorno, QString pagina) {
   entorno.dialogos->abrirDocumento(pagina);
 }
 
+QString RutaFotosDeBase(const QString& ruta, bool* otraUnidad) {
+  *otraUnidad = ruta.left(1).toUpper() != u"C"_s;
+  if (!*otraUnidad) return {};
+  const QString p = ruta + u".mdb"_s;
+  const qsizetype posicion = p.toLower().indexOf(u"velandria.mdb"_s) + 1;
+  if (posicion - 1 < 0) {
+    throw ErrorEjecucion(
+        u"Error 5 en tiempo de ejecución: llamada a procedimiento o argumento no válido (la base "
+        "de datos %1 no se llama velandria.mdb)"_s.arg(p));
+  }
+  return p.left(posicion - 1) + u"fotos"_s + QDir::separator();
+}
+
 void UbicarBaseDeDatos(Entorno& entorno) {
   Sesion& s = entorno.sesion;
-  const QString ruta = entorno.ConexionBD->rutaPredeterminada();
-  if (ruta.left(1).toUpper() != u"C"_s) {
-    s.BDEnOtraUnidad = true;
-    const QString p = ruta + u".mdb"_s;
-    const qsizetype posicion = p.toLower().indexOf(u"velandria.mdb"_s) + 1;
-    if (posicion - 1 < 0) {
-      throw ErrorEjecucion(u"Error en tiempo de ejecución: la base de datos %1 no se llama "
-                           "velandria; no se puede ubicar la carpeta de fotos"_s.arg(p));
-    }
-    s.RutaFotosBD = p.left(posicion - 1) + u"fotos"_s + QDir::separator();
-  } else {
-    s.BDEnOtraUnidad = false;
-  }
+  bool otraUnidad = false;
+  const QString fotos = RutaFotosDeBase(entorno.ConexionBD->rutaPredeterminada(), &otraUnidad);
+  s.BDEnOtraUnidad = otraUnidad;
+  if (otraUnidad) s.RutaFotosBD = fotos;
 }
 
 void LeerOpciones(Entorno& entorno) {

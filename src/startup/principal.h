@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 struct Entorno;
+class Conexion;
 
 // A failure that the start-up deliberately leaves unguarded: it ends the program with a message,
 // as a run-time error would.
@@ -25,8 +26,10 @@ QString ObtenerList1(const Entorno& entorno);
 
 // The connection string of the main database for a program type (compared exactly).
 QString CadenaConexion(const QString& tipoProgramaInformes);
-// Opens the shared connection, with exactly one retry; a second failure is logged.
-void AbrirConexion(Entorno& entorno);
+// Opens the shared connection, with exactly one retry on a fresh connection object; a second
+// failure is logged. `abrir` opens one connection object (replaceable to watch the attempts).
+using AbridorConexion = std::function<void(Conexion& conexion, const QString& cadena)>;
+void AbrirConexion(Entorno& entorno, const AbridorConexion& abrir = {});
 
 qint32 ObtenerEmpleado(Entorno& entorno);
 void ObtenerEmpleadoYColor(Entorno& entorno);
@@ -35,8 +38,12 @@ void LeerColorPanelFamilias(Entorno& entorno);
 // Opens a help page: the local copy in the "ayuda" folder when there is one, else the web.
 void AbrirAyuda(Entorno& entorno, QString pagina);
 
-// The folder of the pictures when the database is on another drive; throws ErrorEjecucion for a
-// database file that is not named "velandria.mdb" (deliberately unguarded).
+// The pictures folder of a database outside drive C, from the connection's default database
+// path: the folder of "velandria.mdb" followed by "fotos" and a separator. The empty text for a
+// database on drive C. Throws ErrorEjecucion for a database of another name (deliberately
+// unguarded, as the suite has always behaved).
+QString RutaFotosDeBase(const QString& rutaPredeterminada, bool* otraUnidad);
+// Sets BDEnOtraUnidad and RutaFotosBD from the shared connection.
 void UbicarBaseDeDatos(Entorno& entorno);
 // Reads the installation's row of opciones into the session.
 void LeerOpciones(Entorno& entorno);
