@@ -28,19 +28,25 @@ void FuncionVal(sqlite3_context* contexto, int, sqlite3_value** argumentos) {
 }
 
 QString InformacionOdbc(QSqlDatabase& bd, SQLUSMALLINT dato) {
+  // Qt's ODBC driver gives its connection handle as a QVariant of SQLHANDLE, a void* that the
+  // meta-type system names "void*".
   const QVariant h = bd.driver()->handle();
-  if (qstrcmp(h.typeName(), "SQLHANDLE") != 0) return {};
-  SQLHANDLE hdbc = *static_cast<const SQLHANDLE*>(h.data());
-  if (!hdbc) return {};
+  if (qstrcmp(h.typeName(), "void*") != 0 && qstrcmp(h.typeName(), "SQLHANDLE") != 0)
+    return {};
+  SQLHANDLE hdbc = *static_cast<const SQLHANDLE*>(h.constData());
+  if (!hdbc)
+    return {};
   SQLCHAR buffer[512] = {};
   SQLSMALLINT largo = 0;
-  if (!SQL_SUCCEEDED(SQLGetInfo(hdbc, dato, buffer, sizeof(buffer), &largo))) return {};
+  if (!SQL_SUCCEEDED(SQLGetInfo(hdbc, dato, buffer, sizeof(buffer), &largo)))
+    return {};
   return QString::fromUtf8(reinterpret_cast<const char*>(buffer));
 }
 
 QString SinExtension(const QString& ruta) {
   const QFileInfo info(ruta);
-  if (info.suffix().isEmpty()) return ruta;
+  if (info.suffix().isEmpty())
+    return ruta;
   return ruta.left(ruta.size() - info.suffix().size() - 1);
 }
 
@@ -53,7 +59,9 @@ QString DescripcionError(const QSqlError& error) {
 
 Conexion::Conexion() : nombre_(u"conexion%1"_s.arg(g_contador.fetchAndAddRelaxed(1))) {}
 
-Conexion::~Conexion() { cerrar(); }
+Conexion::~Conexion() {
+  cerrar();
+}
 
 void Conexion::cerrar() {
   if (bd_.isValid()) {
@@ -63,7 +71,9 @@ void Conexion::cerrar() {
   }
 }
 
-bool Conexion::abierta() const { return bd_.isValid() && bd_.isOpen(); }
+bool Conexion::abierta() const {
+  return bd_.isValid() && bd_.isOpen();
+}
 
 void Conexion::fallar(const QString& descripcion) {
   const QString texto = descripcion;
@@ -76,15 +86,16 @@ void Conexion::abrirSQLite(const QString& archivo) {
   bd_ = QSqlDatabase::addDatabase(u"QSQLITE"_s, nombre_);
   bd_.setDatabaseName(archivo);
   bd_.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=10000"_s);
-  if (!bd_.open()) fallar(DescripcionError(bd_.lastError()));
+  if (!bd_.open())
+    fallar(DescripcionError(bd_.lastError()));
   despuesDeAbrir(QFileInfo(archivo).absoluteFilePath());
 }
 
 void Conexion::abrir(const QString& cadena, const OrigenesDatos& origenes) {
   cerrar();
   const QMap<QString, QString> pares = ParesDeCadena(cadena);
-  const OrigenDatos* origen = pares.contains(u"dsn"_s) ? origenes.buscar(pares.value(u"dsn"_s))
-                                                        : nullptr;
+  const OrigenDatos* origen =
+      pares.contains(u"dsn"_s) ? origenes.buscar(pares.value(u"dsn"_s)) : nullptr;
   if (origen && origen->tipo == OrigenDatos::Tipo::SQLite) {
     if (!QFileInfo::exists(origen->archivo)) {
       throw ErrorBD(u"No se encuentra el archivo de base de datos %1"_s.arg(origen->archivo));
@@ -99,17 +110,20 @@ void Conexion::abrir(const QString& cadena, const OrigenesDatos& origenes) {
     bd_.setDatabaseName(origen->baseDatos);
     bd_.setUserName(origen->usuario);
     bd_.setPassword(origen->clave.isEmpty() ? pares.value(u"pwd"_s) : origen->clave);
-    if (!bd_.open()) fallar(DescripcionError(bd_.lastError()));
+    if (!bd_.open())
+      fallar(DescripcionError(bd_.lastError()));
     despuesDeAbrir({});
     return;
   }
   // Qt's ODBC driver puts "DSN=" in front of the string itself unless it names a driver.
   QString texto = cadena;
   const QString inicio = texto.trimmed().left(4);
-  if (inicio.compare(u"dsn="_s, Qt::CaseInsensitive) == 0) texto = texto.trimmed().mid(4);
+  if (inicio.compare(u"dsn="_s, Qt::CaseInsensitive) == 0)
+    texto = texto.trimmed().mid(4);
   bd_ = QSqlDatabase::addDatabase(u"QODBC"_s, nombre_);
   bd_.setDatabaseName(texto);
-  if (!bd_.open()) fallar(DescripcionError(bd_.lastError()));
+  if (!bd_.open())
+    fallar(DescripcionError(bd_.lastError()));
   despuesDeAbrir({});
 }
 
@@ -144,53 +158,64 @@ void Conexion::despuesDeAbrir(const QString& rutaArchivo) {
 }
 
 QSqlQuery Conexion::preparar(const QString& sentencia) {
-  if (!abierta()) throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
+  if (!abierta())
+    throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
   if (TieneSegundaSentencia(sentencia)) {
     throw ErrorBD(u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
   }
   QSqlQuery q(bd_);
   q.setForwardOnly(true);
-  if (!q.prepare(AdaptarSentencia(sentencia, motor_))) throw ErrorBD(DescripcionError(q.lastError()));
+  if (!q.prepare(AdaptarSentencia(sentencia, motor_)))
+    throw ErrorBD(DescripcionError(q.lastError()));
   return q;
 }
 
 int Conexion::ejecutar(const QString& sentencia) {
   QSqlQuery q = preparar(sentencia);
-  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  if (!q.exec())
+    throw ErrorBD(DescripcionError(q.lastError()));
   return q.numRowsAffected();
 }
 
 QSqlQuery Conexion::consultar(const QString& sentencia) {
   QSqlQuery q = preparar(sentencia);
-  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  if (!q.exec())
+    throw ErrorBD(DescripcionError(q.lastError()));
   return q;
 }
 
 void Conexion::ejecutarDirecto(const QString& sentencia) {
-  if (!abierta()) throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
+  if (!abierta())
+    throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
   if (TieneSegundaSentencia(sentencia)) {
     throw ErrorBD(u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
   }
   QSqlQuery q(bd_);
-  if (!q.exec(sentencia)) throw ErrorBD(DescripcionError(q.lastError()));
+  if (!q.exec(sentencia))
+    throw ErrorBD(DescripcionError(q.lastError()));
 }
 
 void Conexion::comenzarTransaccion() {
-  if (!abierta() || !bd_.transaction()) throw ErrorBD(DescripcionError(bd_.lastError()));
+  if (!abierta() || !bd_.transaction())
+    throw ErrorBD(DescripcionError(bd_.lastError()));
 }
 
 void Conexion::confirmarTransaccion() {
-  if (!bd_.commit()) throw ErrorBD(DescripcionError(bd_.lastError()));
+  if (!bd_.commit())
+    throw ErrorBD(DescripcionError(bd_.lastError()));
 }
 
-void Conexion::deshacerTransaccion() { bd_.rollback(); }
+void Conexion::deshacerTransaccion() {
+  bd_.rollback();
+}
 
 Transaccion::Transaccion(Conexion& conexion) : conexion_(conexion) {
   conexion_.comenzarTransaccion();
 }
 
 Transaccion::~Transaccion() {
-  if (!terminada_) conexion_.deshacerTransaccion();
+  if (!terminada_)
+    conexion_.deshacerTransaccion();
 }
 
 void Transaccion::confirmar() {

@@ -19,7 +19,8 @@ QList<Trozo> Trocear(const QString& s) {
   for (qsizetype i = 0; i < s.size(); ++i) {
     const QChar c = s.at(i);
     if (!enLiteral && c == u'\'') {
-      if (!actual.isEmpty()) trozos.append({actual, false});
+      if (!actual.isEmpty())
+        trozos.append({actual, false});
       actual = c;
       enLiteral = true;
     } else if (enLiteral && c == u'\'') {
@@ -35,11 +36,14 @@ QList<Trozo> Trocear(const QString& s) {
       actual += c;
     }
   }
-  if (!actual.isEmpty()) trozos.append({actual, enLiteral});
+  if (!actual.isEmpty())
+    trozos.append({actual, enLiteral});
   return trozos;
 }
 
-bool EsLetraDeNombre(QChar c) { return c.isLetterOrNumber() || c == u'_' || c == u'$'; }
+bool EsLetraDeNombre(QChar c) {
+  return c.isLetterOrNumber() || c == u'_' || c == u'$';
+}
 
 // Replaces whole words (case-insensitive) in a code piece.
 QString ReemplazarPalabra(const QString& codigo, const QString& palabra, const QString& nueva) {
@@ -47,7 +51,8 @@ QString ReemplazarPalabra(const QString& codigo, const QString& palabra, const Q
   qsizetype i = 0;
   while (i < codigo.size()) {
     const qsizetype j = codigo.indexOf(palabra, i, Qt::CaseInsensitive);
-    if (j < 0) break;
+    if (j < 0)
+      break;
     const bool inicio = j == 0 || !EsLetraDeNombre(codigo.at(j - 1));
     const qsizetype fin = j + palabra.size();
     const bool final = fin >= codigo.size() || !EsLetraDeNombre(codigo.at(fin));
@@ -76,9 +81,13 @@ QString ReemplazarComparacionNula(const QString& codigo) {
     }
     if (largo > 0) {
       qsizetype k = i + largo;
-      while (k < codigo.size() && codigo.at(k).isSpace()) ++k;
+      while (k < codigo.size() && codigo.at(k).isSpace())
+        ++k;
       if (codigo.mid(k, 4).compare(u"null"_s, Qt::CaseInsensitive) == 0 &&
           (k + 4 >= codigo.size() || !EsLetraDeNombre(codigo.at(k + 4)))) {
+        // "c<>null" must not become "cis not null".
+        if (!r.isEmpty() && !r.back().isSpace() && r.back() != u'(')
+          r += u' ';
         r += distinto ? u"is not null"_s : u"is null"_s;
         i = k + 4;
         continue;
@@ -96,16 +105,19 @@ QString QuitarAsteriscoDeDelete(const QString& codigo) {
   qsizetype desde = 0;
   while (true) {
     const qsizetype j = r.indexOf(u"delete"_s, desde, Qt::CaseInsensitive);
-    if (j < 0) break;
+    if (j < 0)
+      break;
     qsizetype k = j + 6;
-    const bool palabra = (j == 0 || !EsLetraDeNombre(r.at(j - 1))) &&
-                         (k < r.size() && !EsLetraDeNombre(r.at(k)));
+    const bool palabra =
+        (j == 0 || !EsLetraDeNombre(r.at(j - 1))) && (k < r.size() && !EsLetraDeNombre(r.at(k)));
     if (palabra) {
       qsizetype m = k;
-      while (m < r.size() && r.at(m).isSpace()) ++m;
+      while (m < r.size() && r.at(m).isSpace())
+        ++m;
       if (m < r.size() && r.at(m) == u'*') {
         qsizetype n = m + 1;
-        while (n < r.size() && r.at(n).isSpace()) ++n;
+        while (n < r.size() && r.at(n).isSpace())
+          ++n;
         r.replace(k, n - k, u" "_s);
       }
     }
@@ -120,9 +132,11 @@ QString ValComoCast(const QString& codigo) {
   qsizetype i = 0;
   while (i < codigo.size()) {
     const qsizetype j = codigo.indexOf(u"val"_s, i, Qt::CaseInsensitive);
-    if (j < 0) break;
+    if (j < 0)
+      break;
     qsizetype k = j + 3;
-    while (k < codigo.size() && codigo.at(k).isSpace()) ++k;
+    while (k < codigo.size() && codigo.at(k).isSpace())
+      ++k;
     const bool inicio = j == 0 || !EsLetraDeNombre(codigo.at(j - 1));
     if (!inicio || k >= codigo.size() || codigo.at(k) != u'(') {
       r += codigo.mid(i, j + 3 - i);
@@ -132,8 +146,10 @@ QString ValComoCast(const QString& codigo) {
     int nivel = 0;
     qsizetype fin = k;
     for (; fin < codigo.size(); ++fin) {
-      if (codigo.at(fin) == u'(') ++nivel;
-      if (codigo.at(fin) == u')' && --nivel == 0) break;
+      if (codigo.at(fin) == u'(')
+        ++nivel;
+      if (codigo.at(fin) == u')' && --nivel == 0)
+        break;
     }
     if (fin >= codigo.size()) {  // unbalanced: leave as it is, the engine reports it
       r += codigo.mid(i);
@@ -160,7 +176,8 @@ QString OrdenarNulosComoJet(const QList<Trozo>& trozos) {
     mascara += t.literal ? QString(t.texto.size(), u'x') : t.texto.toLower();
   }
   QString original;
-  for (const Trozo& t : trozos) original += t.texto;
+  for (const Trozo& t : trozos)
+    original += t.texto;
 
   struct Insercion {
     qsizetype pos;
@@ -170,12 +187,16 @@ QString OrdenarNulosComoJet(const QList<Trozo>& trozos) {
   qsizetype desde = 0;
   while (true) {
     qsizetype j = mascara.indexOf(u"order"_s, desde);
-    if (j < 0) break;
+    if (j < 0)
+      break;
     desde = j + 5;
-    if (j > 0 && EsLetraDeNombre(mascara.at(j - 1))) continue;
+    if (j > 0 && EsLetraDeNombre(mascara.at(j - 1)))
+      continue;
     qsizetype k = j + 5;
-    while (k < mascara.size() && mascara.at(k).isSpace()) ++k;
-    if (mascara.mid(k, 2) != u"by"_s || (k + 2 < mascara.size() && EsLetraDeNombre(mascara.at(k + 2))))
+    while (k < mascara.size() && mascara.at(k).isSpace())
+      ++k;
+    if (mascara.mid(k, 2) != u"by"_s ||
+        (k + 2 < mascara.size() && EsLetraDeNombre(mascara.at(k + 2))))
       continue;
     k += 2;
     // Walk the keys until the end, a closing bracket of the enclosing level, or a clause word.
@@ -184,17 +205,21 @@ QString OrdenarNulosComoJet(const QList<Trozo>& trozos) {
     auto cerrarClave = [&](qsizetype fin) {
       QString clave = mascara.mid(inicioClave, fin - inicioClave).trimmed();
       qsizetype finReal = fin;
-      while (finReal > inicioClave && mascara.at(finReal - 1).isSpace()) --finReal;
-      if (clave.isEmpty() || clave.contains(u"nulls"_s)) return;
+      while (finReal > inicioClave && mascara.at(finReal - 1).isSpace())
+        --finReal;
+      if (clave.isEmpty() || clave.contains(u"nulls"_s))
+        return;
       const bool desc = clave.endsWith(u" desc"_s) || clave == u"desc"_s;
       inserciones.append({finReal, desc ? u" nulls last"_s : u" nulls first"_s});
     };
     qsizetype p = k;
     for (; p < mascara.size(); ++p) {
       const QChar c = mascara.at(p);
-      if (c == u'(') ++nivel;
+      if (c == u'(')
+        ++nivel;
       if (c == u')') {
-        if (nivel == 0) break;
+        if (nivel == 0)
+          break;
         --nivel;
       }
       if (nivel == 0 && c == u',') {
@@ -222,8 +247,10 @@ QString OrdenarNulosComoJet(const QList<Trozo>& trozos) {
 QString AdaptarSentencia(const QString& sentencia, Motor motor) {
   QList<Trozo> trozos = Trocear(sentencia);
   for (Trozo& t : trozos) {
-    if (t.literal) continue;
-    if (motor != Motor::Access) t.texto = QuitarAsteriscoDeDelete(t.texto);
+    if (t.literal)
+      continue;
+    if (motor != Motor::Access)
+      t.texto = QuitarAsteriscoDeDelete(t.texto);
     t.texto = ReemplazarComparacionNula(t.texto);
     t.texto = ReemplazarPalabra(t.texto, u"true"_s, u"-1"_s);
     t.texto = ReemplazarPalabra(t.texto, u"false"_s, u"0"_s);
@@ -231,12 +258,15 @@ QString AdaptarSentencia(const QString& sentencia, Motor motor) {
   if (motor == Motor::SQLiteODBC) {
     // val() may take a bracketed argument that spans no literal in the suite's statements.
     for (Trozo& t : trozos) {
-      if (!t.literal) t.texto = ValComoCast(t.texto);
+      if (!t.literal)
+        t.texto = ValComoCast(t.texto);
     }
   }
-  if (motor == Motor::PostgreSQL) return OrdenarNulosComoJet(trozos);
+  if (motor == Motor::PostgreSQL)
+    return OrdenarNulosComoJet(trozos);
   QString r;
-  for (const Trozo& t : trozos) r += t.texto;
+  for (const Trozo& t : trozos)
+    r += t.texto;
   return r;
 }
 
@@ -245,7 +275,8 @@ bool TieneSegundaSentencia(const QString& sentencia) {
   bool puntoYComa = false;
   for (const Trozo& t : trozos) {
     if (puntoYComa) {
-      if (t.literal) return true;
+      if (t.literal)
+        return true;
     }
     for (qsizetype i = 0; i < t.texto.size() && !t.literal; ++i) {
       const QChar c = t.texto.at(i);
@@ -253,13 +284,15 @@ bool TieneSegundaSentencia(const QString& sentencia) {
         // a comment after the ';' is harmless only if it is all that follows
         if (t.texto.mid(i, 2) == u"--"_s) {
           const qsizetype fin = t.texto.indexOf(u'\n', i);
-          if (fin < 0) break;
+          if (fin < 0)
+            break;
           i = fin;
           continue;
         }
         return true;
       }
-      if (c == u';') puntoYComa = true;
+      if (c == u';')
+        puntoYComa = true;
     }
   }
   return false;

@@ -9,10 +9,18 @@ namespace {
 
 using T = TipoColumna;
 
-Columna Tx(const QString& n) { return {n, T::Texto}; }
-Columna En(const QString& n) { return {n, T::Entero}; }
-Columna Bo(const QString& n) { return {n, T::Booleano}; }
-Columna Do(const QString& n) { return {n, T::Doble}; }
+Columna Tx(const QString& n) {
+  return {n, T::Texto};
+}
+Columna En(const QString& n) {
+  return {n, T::Entero};
+}
+Columna Bo(const QString& n) {
+  return {n, T::Booleano};
+}
+Columna Do(const QString& n) {
+  return {n, T::Doble};
+}
 
 QList<Tabla> CrearTablasPrincipales() {
   QList<Tabla> t;
@@ -161,7 +169,8 @@ language sql immutable strict parallel safe as $$
 
 const Columna* Tabla::columna(const QString& n) const {
   for (const Columna& c : columnas) {
-    if (c.nombre.compare(n, Qt::CaseInsensitive) == 0) return &c;
+    if (c.nombre.compare(n, Qt::CaseInsensitive) == 0)
+      return &c;
   }
   return nullptr;
 }
@@ -180,7 +189,8 @@ const QList<Tabla>& TablasInformes() {
 const Tabla* BuscarTabla(const QString& nombre) {
   for (const QList<Tabla>* lista : {&TablasPrincipales(), &TablasInformes()}) {
     for (const Tabla& t : *lista) {
-      if (t.nombre.compare(nombre, Qt::CaseInsensitive) == 0) return &t;
+      if (t.nombre.compare(nombre, Qt::CaseInsensitive) == 0)
+        return &t;
     }
   }
   return nullptr;
@@ -195,9 +205,11 @@ QStringList SentenciasCrearEsquema(const QList<Tabla>& tablas, Motor motor) {
   for (const Tabla& t : tablas) {
     QStringList partes;
     for (const Columna& c : t.columnas) {
-      partes.append(c.nombre + u' ' + TipoSql(c.tipo, motor) + (c.noNula ? u" not null"_s : QString()));
+      partes.append(c.nombre + u' ' + TipoSql(c.tipo, motor) +
+                    (c.noNula ? u" not null"_s : QString()));
     }
-    if (!t.clave.isEmpty()) partes.append(u"primary key ("_s + t.clave.join(u", "_s) + u')');
+    if (!t.clave.isEmpty())
+      partes.append(u"primary key ("_s + t.clave.join(u", "_s) + u')');
     sentencias.append(u"create table "_s + t.nombre + u" ("_s + partes.join(u", "_s) + u')');
   }
   return sentencias;

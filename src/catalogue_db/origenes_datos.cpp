@@ -8,16 +8,23 @@ OrigenesDatos OrigenesDatos::DesdeIni(const ArchivoIni& ini, const QString& carp
   OrigenesDatos origenes;
   for (const QString& seccion : ini.secciones()) {
     const QStringList partes = seccion.split(u' ', Qt::SkipEmptyParts);
-    if (partes.size() != 2 || partes.at(0).compare(u"dsn"_s, Qt::CaseInsensitive) != 0) continue;
+    if (partes.size() != 2 || partes.at(0).compare(u"dsn"_s, Qt::CaseInsensitive) != 0)
+      continue;
     OrigenDatos o;
     const QString tipo = ini.valor(seccion, u"tipo"_s).toLower();
     if (tipo == u"sqlite"_s) {
       o.tipo = OrigenDatos::Tipo::SQLite;
-      o.archivo = QDir(carpetaBase).absoluteFilePath(ini.valor(seccion, u"archivo"_s));
+      // The suite writes paths with '\\', the folder separator of whatever platform runs it.
+      QString archivo = ini.valor(seccion, u"archivo"_s);
+      archivo.replace(u'\\', u'/');
+      o.archivo = QDir::cleanPath(QDir(carpetaBase).absoluteFilePath(archivo));
     } else if (tipo == u"postgresql"_s) {
       o.tipo = OrigenDatos::Tipo::PostgreSQL;
       o.servidor = ini.valor(seccion, u"servidor"_s, u"localhost"_s);
-      o.puerto = ini.valor(seccion, u"puerto"_s, u"5432"_s).toInt();
+      bool puertoValido = false;
+      o.puerto = ini.valor(seccion, u"puerto"_s, u"5432"_s).toInt(&puertoValido);
+      if (!puertoValido || o.puerto <= 0 || o.puerto > 65535)
+        o.puerto = 5432;
       o.baseDatos = ini.valor(seccion, u"basedatos"_s, partes.at(1));
       o.usuario = ini.valor(seccion, u"usuario"_s);
       o.clave = ini.valor(seccion, u"clave"_s);
@@ -43,7 +50,13 @@ QMap<QString, QString> ParesDeCadena(const QString& cadena) {
   qsizetype i = 0;
   while (i < cadena.size()) {
     const qsizetype igual = cadena.indexOf(u'=', i);
-    if (igual < 0) break;
+    const qsizetype puntoYComa = cadena.indexOf(u';', i);
+    if (igual < 0)
+      break;
+    if (puntoYComa >= 0 && puntoYComa < igual) {  // a piece without '=' names nothing
+      i = puntoYComa + 1;
+      continue;
+    }
     const QString clave = cadena.mid(i, igual - i).trimmed().toLower();
     qsizetype j = igual + 1;
     QString valor;
@@ -58,7 +71,9 @@ QMap<QString, QString> ParesDeCadena(const QString& cadena) {
       valor = cadena.mid(j, (pc < 0 ? cadena.size() : pc) - j);
       j = pc < 0 ? cadena.size() : pc + 1;
     }
-    if (!clave.isEmpty()) pares.insert(clave, valor);
+    // As ODBC reads a connection string, the first value given for a key is the one used.
+    if (!clave.isEmpty() && !pares.contains(clave))
+      pares.insert(clave, valor);
     i = j;
   }
   return pares;

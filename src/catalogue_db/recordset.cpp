@@ -28,28 +28,72 @@ Recordset::Recordset(Conexion& conexion, const QString& sentencia)
 }
 
 void Recordset::leer() {
-  QSqlQuery q = conexion_->consultar(sentencia_);
+  claveOculta_ = claveQueFalta();
+  QString lectura = sentencia_;
+  if (!claveOculta_.isEmpty()) {
+    static const QRegularExpression select(uR"(^\s*select\s+)"_s,
+                                           QRegularExpression::CaseInsensitiveOption);
+    lectura.replace(select, u"select "_s + claveOculta_.join(u", "_s) + u", "_s);
+  }
+  QSqlQuery q = conexion_->consultar(lectura);
+  const int ocultas = claveOculta_.size();
   campos_ = q.record();
+  for (int i = 0; i < ocultas; ++i)
+    campos_.remove(0);
   filas_.clear();
   while (q.next()) {
     Fila f;
     f.valores.reserve(campos_.count());
-    for (int i = 0; i < campos_.count(); ++i) f.valores.append(q.value(i));
+    for (int i = 0; i < ocultas; ++i)
+      f.clave.append(q.value(i));
+    for (int i = 0; i < campos_.count(); ++i)
+      f.valores.append(q.value(ocultas + i));
     filas_.append(std::move(f));
   }
   abierto_ = true;
   edicion_ = Edicion::Ninguna;
-  posicion_ = filas_.isEmpty() ? 0 : 0;
+  posicion_ = 0;
+}
+
+QStringList Recordset::claveQueFalta() const {
+  const Tabla* t = BuscarTabla(tablaDestino());
+  if (!t || t->clave.isEmpty())
+    return {};
+  // "select a, b from ..." with plain column names only; "*", expressions and distinct are
+  // left as they are.
+  static const QRegularExpression re(
+      uR"(^\s*select\s+(.*?)\s+from\s)"_s,
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+  const QRegularExpressionMatch m = re.match(sentencia_);
+  if (!m.hasMatch())
+    return {};
+  static const QRegularExpression nombre(
+      uR"(^(?:[A-Za-z_][A-Za-z0-9_]*\.)?([A-Za-z_][A-Za-z0-9_]*)$)"_s);
+  QStringList seleccionadas;
+  for (const QString& parte : m.captured(1).split(u',')) {
+    const QRegularExpressionMatch n = nombre.match(parte.trimmed());
+    if (!n.hasMatch() || n.captured(1).compare(u"distinct"_s, Qt::CaseInsensitive) == 0)
+      return {};
+    seleccionadas.append(n.captured(1));
+  }
+  QStringList faltan;
+  for (const QString& c : t->clave) {
+    if (!seleccionadas.contains(c, Qt::CaseInsensitive))
+      faltan.append(c);
+  }
+  return faltan;
 }
 
 void Recordset::comprobarAbierto() const {
-  if (!abierto_) throw ErrorBD(u"La operación no está permitida si el objeto está cerrado."_s);
+  if (!abierto_)
+    throw ErrorBD(u"La operación no está permitida si el objeto está cerrado."_s);
 }
 
 int Recordset::recordCount() const {
   comprobarAbierto();
   int n = 0;
-  for (const Fila& f : filas_) n += f.borrada ? 0 : 1;
+  for (const Fila& f : filas_)
+    n += f.borrada ? 0 : 1;
   return n;
 }
 
@@ -65,38 +109,47 @@ bool Recordset::eof() const {
 
 int Recordset::siguienteViva(int desde, int paso) const {
   int i = desde;
-  while (i >= 0 && i < filas_.size() && filas_.at(i).borrada) i += paso;
+  while (i >= 0 && i < filas_.size() && filas_.at(i).borrada)
+    i += paso;
   return i;
 }
 
 void Recordset::moveFirst() {
   comprobarAbierto();
-  if (edicion_ != Edicion::Ninguna) update();
-  if (recordCount() == 0) throw ErrorBD(kSinFilaActual);
+  if (edicion_ != Edicion::Ninguna)
+    update();
+  if (recordCount() == 0)
+    throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(0, 1);
 }
 
 void Recordset::moveLast() {
   comprobarAbierto();
-  if (edicion_ != Edicion::Ninguna) update();
-  if (recordCount() == 0) throw ErrorBD(kSinFilaActual);
+  if (edicion_ != Edicion::Ninguna)
+    update();
+  if (recordCount() == 0)
+    throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(filas_.size() - 1, -1);
 }
 
 void Recordset::moveNext() {
   comprobarAbierto();
-  if (edicion_ != Edicion::Ninguna) update();
-  if (eof()) throw ErrorBD(kSinFilaActual);
+  if (edicion_ != Edicion::Ninguna)
+    update();
+  // Only EOF itself (or a set that never had a row) has no next row: from a row just deleted,
+  // even the last one, the move goes on to EOF, as the delete-while-walking loops expect.
+  if (posicion_ >= filas_.size())
+    throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(posicion_ + 1, 1);
-  if (posicion_ > filas_.size()) posicion_ = filas_.size();
 }
 
 void Recordset::movePrevious() {
   comprobarAbierto();
-  if (edicion_ != Edicion::Ninguna) update();
-  if (bof()) throw ErrorBD(kSinFilaActual);
+  if (edicion_ != Edicion::Ninguna)
+    update();
+  if (posicion_ < 0 || filas_.isEmpty())
+    throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(posicion_ - 1, -1);
-  if (posicion_ < -1) posicion_ = -1;
 }
 
 const Recordset::Fila& Recordset::filaActual() const {
@@ -109,14 +162,17 @@ const Recordset::Fila& Recordset::filaActual() const {
 
 int Recordset::indiceCampo(const QString& nombre) const {
   for (int i = 0; i < campos_.count(); ++i) {
-    if (campos_.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0) return i;
+    if (campos_.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0)
+      return i;
   }
   throw ErrorBD(
       u"No se encontró el elemento en la colección que corresponde con el nombre o el ordinal "
       "solicitado: %1"_s.arg(nombre));
 }
 
-QVariant Recordset::field(const QString& nombre) const { return field(indiceCampo(nombre)); }
+QVariant Recordset::field(const QString& nombre) const {
+  return field(indiceCampo(nombre));
+}
 
 QVariant Recordset::field(int indice) const {
   comprobarAbierto();
@@ -125,14 +181,17 @@ QVariant Recordset::field(int indice) const {
         u"No se encontró el elemento en la colección que corresponde con el nombre o el ordinal "
         "solicitado: %1"_s.arg(indice));
   }
-  if (edicion_ != Edicion::Ninguna && cambiados_.at(indice)) return buffer_.at(indice);
-  if (edicion_ == Edicion::Nueva) return buffer_.at(indice);
+  if (edicion_ != Edicion::Ninguna && cambiados_.at(indice))
+    return buffer_.at(indice);
+  if (edicion_ == Edicion::Nueva)
+    return buffer_.at(indice);
   return filaActual().valores.at(indice);
 }
 
 void Recordset::addNew() {
   comprobarAbierto();
-  if (edicion_ != Edicion::Ninguna) update();
+  if (edicion_ != Edicion::Ninguna)
+    update();
   edicion_ = Edicion::Nueva;
   buffer_ = QList<QVariant>(campos_.count());
   cambiados_ = QList<bool>(campos_.count(), false);
@@ -150,7 +209,6 @@ void Recordset::setField(const QString& nombre, const QVariant& valor) {
 }
 
 QVariant Recordset::convertirParaColumna(int indice, const QVariant& valor) const {
-  if (valor.isNull()) return QVariant(campos_.field(indice).metaType());
   QMetaType tipo = campos_.field(indice).metaType();
   // Prefer the schema's type: SQLite reports its declared type only for some names.
   if (const Tabla* t = BuscarTabla(tablaDestino())) {
@@ -172,60 +230,99 @@ QVariant Recordset::convertirParaColumna(int indice, const QVariant& valor) cons
       }
     }
   }
-  if (!tipo.isValid() || valor.metaType() == tipo) return valor;
+  if (valor.isNull())
+    return QVariant(tipo);
+  if (!tipo.isValid() || valor.metaType() == tipo)
+    return valor;
+  const auto noValido = [&] {
+    return ErrorBD(u"El valor «%1» no es válido para el campo %2"_s.arg(valor.toString(),
+                                                                        campos_.fieldName(indice)));
+  };
+  const bool numerico = tipo == QMetaType::fromType<int>() ||
+                        tipo == QMetaType::fromType<double>() ||
+                        tipo == QMetaType::fromType<qlonglong>();
   QVariant v = valor;
-  if (valor.metaType() == QMetaType::fromType<QString>() &&
-      (tipo == QMetaType::fromType<int>() || tipo == QMetaType::fromType<double>() ||
-       tipo == QMetaType::fromType<qlonglong>())) {
+  if (valor.metaType() == QMetaType::fromType<bool>() && numerico) {
+    v = valor.toBool() ? -1 : 0;  // the suite's booleans are -1 and 0
+  } else if (valor.metaType() == QMetaType::fromType<QString>() && numerico) {
     bool ok = false;
     const double d = valor.toString().trimmed().toDouble(&ok);
-    if (!ok) {
-      throw ErrorBD(u"El valor «%1» no es válido para el campo %2"_s.arg(
-          valor.toString(), campos_.fieldName(indice)));
-    }
+    if (!ok || !std::isfinite(d))
+      throw noValido();
     v = d;
   }
   if (tipo == QMetaType::fromType<int>() && v.metaType() == QMetaType::fromType<double>()) {
-    return QVariant(static_cast<int>(std::llround(v.toDouble())));
+    const double d = v.toDouble();
+    if (d < -2147483648.0 || d > 2147483647.0)
+      throw noValido();
+    return QVariant(static_cast<int>(std::llround(d)));
   }
-  if (!v.convert(tipo)) {
-    throw ErrorBD(u"El valor «%1» no es válido para el campo %2"_s.arg(
-        valor.toString(), campos_.fieldName(indice)));
-  }
+  if (!v.convert(tipo))
+    throw noValido();
+  if (tipo == QMetaType::fromType<QDate>() && !v.toDate().isValid())
+    throw noValido();
   return v;
 }
 
 QString Recordset::tablaDestino() const {
   // "select ... from NAME [where|order|group|;|end]" with a single table.
   static const QRegularExpression re(
-      uR"(\bfrom\s+([A-Za-z_][A-Za-z0-9_]*)\s*(?:$|\bwhere\b|\border\b|\bgroup\b))"_s,
+      uR"(\bfrom\s+([A-Za-z_][A-Za-z0-9_]*)\s*(?:$|;|\bwhere\b|\border\b|\bgroup\b))"_s,
       QRegularExpression::CaseInsensitiveOption);
   const QRegularExpressionMatch m = re.match(sentencia_);
   return m.hasMatch() ? m.captured(1) : QString();
 }
 
+bool Recordset::claveCompleta(const Fila& fila) const {
+  const Tabla* t = BuscarTabla(tablaDestino());
+  if (!t || t->clave.isEmpty())
+    return false;
+  if (!claveOculta_.isEmpty() && fila.clave.size() != claveOculta_.size())
+    return false;
+  for (const QString& c : t->clave) {
+    if (claveOculta_.contains(c, Qt::CaseInsensitive))
+      continue;
+    bool esta = false;
+    for (int i = 0; i < campos_.count() && !esta; ++i) {
+      esta = campos_.fieldName(i).compare(c, Qt::CaseInsensitive) == 0;
+    }
+    if (!esta)
+      return false;
+  }
+  return true;
+}
+
+// The where clause that finds a row of the recordset again in its table: by the table's key
+// when the row has it, else by every value that was read.
 QString Recordset::condicionFila(const Fila& fila, QList<QVariant>& valores) const {
   const Tabla* t = BuscarTabla(tablaDestino());
+  const bool porClave = claveCompleta(fila);
   QStringList partes;
-  for (int i = 0; i < campos_.count(); ++i) {
-    const QString nombre = campos_.fieldName(i);
-    const bool esClave = t && !t->clave.isEmpty()
-                             ? t->clave.contains(nombre, Qt::CaseInsensitive)
-                             : true;
-    if (!esClave) continue;
-    if (fila.valores.at(i).isNull()) {
+  const auto agregar = [&](const QString& nombre, const QVariant& valor) {
+    if (valor.isNull()) {
       partes.append(nombre + u" is null"_s);
     } else {
       partes.append(nombre + u" = ?"_s);
-      valores.append(fila.valores.at(i));
+      valores.append(valor);
     }
+  };
+  if (porClave) {
+    for (int i = 0; i < claveOculta_.size(); ++i)
+      agregar(claveOculta_.at(i), fila.clave.at(i));
+  }
+  for (int i = 0; i < campos_.count(); ++i) {
+    const QString nombre = campos_.fieldName(i);
+    if (porClave && !t->clave.contains(nombre, Qt::CaseInsensitive))
+      continue;
+    agregar(nombre, fila.valores.at(i));
   }
   return partes.join(u" and "_s);
 }
 
 void Recordset::update() {
   comprobarAbierto();
-  if (edicion_ == Edicion::Ninguna) return;
+  if (edicion_ == Edicion::Ninguna)
+    return;
   const QString tabla = tablaDestino();
   if (tabla.isEmpty()) {
     throw ErrorBD(u"No se puede actualizar: la consulta no tiene una única tabla de origen"_s);
@@ -236,7 +333,8 @@ void Recordset::update() {
   if (edicion_ == Edicion::Nueva) {
     QStringList columnas, marcas;
     for (int i = 0; i < campos_.count(); ++i) {
-      if (!cambiados_.at(i)) continue;
+      if (!cambiados_.at(i))
+        continue;
       columnas.append(campos_.fieldName(i));
       marcas.append(u"?"_s);
       valores.append(buffer_.at(i));
@@ -246,7 +344,8 @@ void Recordset::update() {
   } else {
     QStringList asignaciones;
     for (int i = 0; i < campos_.count(); ++i) {
-      if (!cambiados_.at(i)) continue;
+      if (!cambiados_.at(i))
+        continue;
       asignaciones.append(campos_.fieldName(i) + u" = ?"_s);
       valores.append(buffer_.at(i));
     }
@@ -257,24 +356,29 @@ void Recordset::update() {
     sql = u"update "_s + tabla + u" set "_s + asignaciones.join(u", "_s) + u" where "_s +
           condicionFila(filaActual(), valores);
   }
-  if (!q.prepare(sql)) throw ErrorBD(DescripcionError(q.lastError()));
-  for (const QVariant& v : std::as_const(valores)) q.addBindValue(v);
-  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  if (!q.prepare(sql))
+    throw ErrorBD(DescripcionError(q.lastError()));
+  for (const QVariant& v : std::as_const(valores))
+    q.addBindValue(v);
+  if (!q.exec())
+    throw ErrorBD(DescripcionError(q.lastError()));
   if (edicion_ == Edicion::Cambio && q.numRowsAffected() == 0) {
     throw ErrorBD(
         u"No se encuentra la fila para actualizar. Es posible que se hayan cambiado algunos "
         "valores desde la última vez que se leyó."_s);
   }
   if (edicion_ == Edicion::Nueva) {
-    filas_.append({buffer_, false});
+    filas_.append({buffer_, false, {}});
     posicion_ = filas_.size() - 1;
   } else {
-    filas_[posicion_].valores = buffer_;
+    filas_[posicion_].valores = buffer_;  // the key, read or hidden, stays as it was
   }
   edicion_ = Edicion::Ninguna;
 }
 
-void Recordset::cancelUpdate() { edicion_ = Edicion::Ninguna; }
+void Recordset::cancelUpdate() {
+  edicion_ = Edicion::Ninguna;
+}
 
 void Recordset::deleteRow() {
   const Fila& fila = filaActual();
@@ -285,9 +389,12 @@ void Recordset::deleteRow() {
   QList<QVariant> valores;
   const QString sql = u"delete from "_s + tabla + u" where "_s + condicionFila(fila, valores);
   QSqlQuery q(conexion_->bd());
-  if (!q.prepare(sql)) throw ErrorBD(DescripcionError(q.lastError()));
-  for (const QVariant& v : std::as_const(valores)) q.addBindValue(v);
-  if (!q.exec()) throw ErrorBD(DescripcionError(q.lastError()));
+  if (!q.prepare(sql))
+    throw ErrorBD(DescripcionError(q.lastError()));
+  for (const QVariant& v : std::as_const(valores))
+    q.addBindValue(v);
+  if (!q.exec())
+    throw ErrorBD(DescripcionError(q.lastError()));
   filas_[posicion_].borrada = true;
   edicion_ = Edicion::Ninguna;
 }

@@ -52,6 +52,7 @@ class Recordset {
   struct Fila {
     QList<QVariant> valores;
     bool borrada = false;
+    QList<QVariant> clave;  // the hidden key columns' values, see claveOculta_
   };
 
   void leer();
@@ -60,6 +61,8 @@ class Recordset {
   int indiceCampo(const QString& nombre) const;
   int siguienteViva(int desde, int paso) const;
   QString tablaDestino() const;
+  QStringList claveQueFalta() const;
+  bool claveCompleta(const Fila& fila) const;
   QVariant convertirParaColumna(int indice, const QVariant& valor) const;
   QString condicionFila(const Fila& fila, QList<QVariant>& valores) const;
 
@@ -72,4 +75,7 @@ class Recordset {
   Edicion edicion_ = Edicion::Ninguna;
   QList<QVariant> buffer_;
   QList<bool> cambiados_;
+  // Key columns of the table that the statement does not select: they are read too, unseen,
+  // so that a changed row is written back to that row alone.
+  QStringList claveOculta_;
 };

@@ -9,7 +9,8 @@ double ValJet(QStringView texto) {
   QString s;
   s.reserve(texto.size());
   for (QChar c : texto) {
-    if (c != u' ' && c != u'\t' && c != u'\n' && c != u'\r') s += c;
+    if (c != u' ' && c != u'\t' && c != u'\n' && c != u'\r')
+      s += c;
   }
   if (s.size() >= 2 && s.at(0) == u'&') {
     const QChar base = s.at(1).toUpper();
@@ -18,12 +19,13 @@ double ValJet(QStringView texto) {
       qsizetype i = 2;
       long long valor = 0;
       while (i < s.size()) {
-        const int d = s.at(i).isDigit() ? s.at(i).digitValue()
-                                        : (radix == 16 && s.at(i).toUpper() >= u'A' &&
-                                                   s.at(i).toUpper() <= u'F'
-                                               ? s.at(i).toUpper().unicode() - u'A' + 10
-                                               : -1);
-        if (d < 0 || d >= radix) break;
+        const int d = s.at(i).isDigit()
+                          ? s.at(i).digitValue()
+                          : (radix == 16 && s.at(i).toUpper() >= u'A' && s.at(i).toUpper() <= u'F'
+                                 ? s.at(i).toUpper().unicode() - u'A' + 10
+                                 : -1);
+        if (d < 0 || d >= radix)
+          break;
         valor = valor * radix + d;
         ++i;
       }
@@ -32,7 +34,8 @@ double ValJet(QStringView texto) {
   }
   qsizetype i = 0;
   QString numero;
-  if (i < s.size() && (s.at(i) == u'+' || s.at(i) == u'-')) numero += s.at(i++);
+  if (i < s.size() && (s.at(i) == u'+' || s.at(i) == u'-'))
+    numero += s.at(i++);
   bool digitos = false;
   while (i < s.size() && s.at(i).isDigit() && s.at(i).unicode() < 128) {
     numero += s.at(i++);
@@ -45,17 +48,20 @@ double ValJet(QStringView texto) {
       digitos = true;
     }
   }
-  if (!digitos) return 0.0;
+  if (!digitos)
+    return 0.0;
   if (i < s.size() && (s.at(i).toUpper() == u'E' || s.at(i).toUpper() == u'D')) {
     QString exponente = u"e"_s;
     qsizetype j = i + 1;
-    if (j < s.size() && (s.at(j) == u'+' || s.at(j) == u'-')) exponente += s.at(j++);
+    if (j < s.size() && (s.at(j) == u'+' || s.at(j) == u'-'))
+      exponente += s.at(j++);
     bool conDigitos = false;
     while (j < s.size() && s.at(j).isDigit() && s.at(j).unicode() < 128) {
       exponente += s.at(j++);
       conDigitos = true;
     }
-    if (conDigitos) numero += exponente;
+    if (conDigitos)
+      numero += exponente;
   }
   bool ok = false;
   const double v = numero.toDouble(&ok);

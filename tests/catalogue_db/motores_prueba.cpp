@@ -1,0 +1,108 @@
+#include "motores_prueba.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTest>
+
+#include "error_bd.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString DriverOdbcSQLite() {
+  QStringList candidatas;
+  for (const QString& d : QDir(u"/usr/lib"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    candidatas.append(u"/usr/lib/%1/odbc/libsqlite3odbc.so"_s.arg(d));
+  }
+  candidatas.append(u"/usr/lib/odbc/libsqlite3odbc.so"_s);
+  candidatas.append(u"/usr/local/lib/libsqlite3odbc.so"_s);
+  for (const QString& c : std::as_const(candidatas)) {
+    if (QFile::exists(c))
+      return c;
+  }
+  return {};
+}
+
+bool Escribir(const QString& ruta, const QString& texto) {
+  QFile f(ruta);
+  if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    return false;
+  return f.write(texto.toUtf8()) >= 0;
+}
+
+}  // namespace
+
+MotoresPrueba::MotoresPrueba() {
+  // unixODBC reads its driver list and data sources from the files these two name.
+  const QString odbc = dir_.filePath(u"odbc"_s);
+  QDir().mkpath(odbc);
+  Escribir(odbc + u"/odbcinst.ini"_s, u"[SQLite3]\nDriver=%1\n"_s.arg(DriverOdbcSQLite()));
+  Escribir(odbc + u"/odbc.ini"_s,
+           u"[velandria]\nDriver=SQLite3\nDatabase=%1\nTimeout=10000\n"_s.arg(archivoOdbc()));
+  qputenv("ODBCSYSINI", QFile::encodeName(odbc));
+  qputenv("ODBCINI", QFile::encodeName(odbc + u"/odbc.ini"_s));
+}
+
+MotoresPrueba::~MotoresPrueba() = default;
+
+void MotoresPrueba::agregarFilas() {
+  QTest::addColumn<QString>("motor");
+  for (const QString& m : {u"sqlite"_s, u"odbc"_s, u"postgresql"_s}) {
+    QTest::newRow(m.toUtf8().constData()) << m;
+  }
+}
+
+PostgresPrueba* MotoresPrueba::postgres() {
+  if (!postgres_)
+    postgres_ = std::make_unique<PostgresPrueba>();
+  return postgres_->arrancado() ? postgres_.get() : nullptr;
+}
+
+QString MotoresPrueba::abrirNueva(Conexion& conexion, const QString& motor,
+                                  const QList<Tabla>& tablas) {
+  try {
+    ++bases_;
+    if (motor == u"sqlite"_s) {
+      const QString ruta = dir_.filePath(u"prueba%1.db"_s.arg(bases_));
+      conexion.abrirSQLite(ruta);
+    } else if (motor == u"odbc"_s) {
+      conexion.cerrar();
+      if (DriverOdbcSQLite().isEmpty())
+        return u"the SQLite ODBC driver is not installed"_s;
+      QFile::remove(archivoOdbc());
+      // The SQLite ODBC driver creates the file on connecting; no mapping: straight to ODBC.
+      conexion.abrir(cadena(), OrigenesDatos());
+    } else if (motor == u"postgresql"_s) {
+      PostgresPrueba* pg = postgres();
+      if (!pg)
+        return u"PostgreSQL could not be started: "_s + postgres_->error();
+      const OrigenDatos origen = pg->crearBaseDatos(u"prueba%1"_s.arg(bases_));
+      if (origen.baseDatos.isEmpty())
+        return u"cannot create a database: "_s + pg->error();
+      OrigenesDatos origenes;
+      origenes.mapear(u"velandria"_s, origen);
+      conexion.abrir(cadena(), origenes);
+    } else {
+      return u"unknown driver "_s + motor;
+    }
+    CrearEsquema(conexion, tablas);
+  } catch (const ErrorBD& e) {
+    return motor + u": "_s + e.descripcion();
+  }
+  return {};
+}
+
+QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta) {
+  QList<QVariantList> filas;
+  QSqlQuery q = conexion.consultar(consulta);
+  while (q.next()) {
+    QVariantList fila;
+    for (int i = 0; i < q.record().count(); ++i)
+      fila.append(q.value(i));
+    filas.append(fila);
+  }
+  return filas;
+}

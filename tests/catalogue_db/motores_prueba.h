@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "conexion.h"
+#include "esquema.h"
+#include "postgres_prueba.h"
+
+// The three ways the program reaches its database, for tests that must behave alike on all:
+//   "sqlite"      Qt's SQLite driver on a file;
+//   "odbc"        the suite's connection string through unixODBC and the SQLite ODBC driver,
+//                 with the data source defined in a private odbc.ini (ODBCSYSINI / ODBCINI);
+//   "postgresql"  the suite's connection string mapped by the installation to a throwaway
+//                 server (started on first use; a server that cannot start fails the test).
+// Build one per test program, in initTestCase, before any ODBC call.
+class MotoresPrueba {
+ public:
+  MotoresPrueba();
+  ~MotoresPrueba();
+
+  // The main database's connection string, exactly as the program gives it.
+  static QString cadena() { return QStringLiteral("dsn=velandria;pwd=KorvanitesX%QQRT;"); }
+  // Adds one row per driver ("motor", QString) to a data-driven test.
+  static void agregarFilas();
+
+  // Opens `conexion` on a new, empty database holding the given tables. The result is empty
+  // on success, else why it failed.
+  QString abrirNueva(Conexion& conexion, const QString& motor,
+                     const QList<Tabla>& tablas = TablasPrincipales());
+  // The file behind the "velandria" ODBC data source.
+  QString archivoOdbc() const { return dir_.filePath(QStringLiteral("velandria_odbc.db")); }
+  PostgresPrueba* postgres();
+
+ private:
+  QTemporaryDir dir_;
+  std::unique_ptr<PostgresPrueba> postgres_;
+  int bases_ = 0;
+};
+
+// The rows of a query, each as its values in column order (read straight from the driver).
+QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta);
+
+// Opens a fresh database on the current row's driver or fails the test function.
+#define ABRIR_NUEVA(motores, conexion, motor, ...)                               \
+  do {                                                                           \
+    const QString error_ = (motores).abrirNueva(conexion, motor, ##__VA_ARGS__); \
+    QVERIFY2(error_.isEmpty(), qPrintable(error_));                              \
+  } while (false)
