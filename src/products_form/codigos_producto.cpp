@@ -1,0 +1,123 @@
+#include "codigos_producto.h"
+
+#include <cmath>
+
+#include "entorno.h"
+#include "error_bd.h"
+#include "recordset.h"
+#include "val.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A whole number read from a column, as the form adds one to it.
+qint64 Entero(const QVariant& valor) {
+  return static_cast<qint64>(std::floor(ValJet(valor.toString())));
+}
+
+bool HayFilas(Entorno& entorno, const QString& sentencia, const QString& contexto) {
+  try {
+    Recordset rs(*entorno.ConexionBD, sentencia);
+    const bool hay = rs.recordCount() > 0;
+    rs.close();
+    return hay;
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(contexto, e.descripcion());
+    return false;
+  }
+}
+
+}  // namespace
+
+qint64 SiguienteCodigoProducto(Conexion& conexion) {
+  Recordset rs(conexion, u"select codigo from productos order by val(codigo)"_s);
+  qint64 codigo = 1;
+  if (rs.recordCount() > 0) {
+    rs.moveLast();
+    codigo = Entero(rs.field(u"codigo"_s)) + 1;
+  }
+  rs.close();
+  return codigo;
+}
+
+std::optional<qint64> SiguienteCodigo(Entorno& entorno) {
+  try {
+    return SiguienteCodigoProducto(*entorno.ConexionBD);
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(kContextoSiguienteCodigo, e.descripcion());
+    return std::nullopt;
+  }
+}
+
+std::optional<QString> ValorPonerOrden(Entorno& entorno) {
+  try {
+    Recordset rs(*entorno.ConexionBD,
+                 u"Select orden from productos where borrar = 0 order by orden"_s);
+    QString valor = u"0"_s;
+    if (rs.recordCount() > 0) {
+      rs.moveLast();
+      valor = QString::number(Entero(rs.field(u"orden"_s)) + 1);
+    }
+    rs.close();
+    return valor;
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(kContextoPonerOrden, e.descripcion());
+    return std::nullopt;
+  }
+}
+
+std::optional<QString> ValorMensajeNumero(Entorno& entorno, int tipoProducto) {
+  // The elaborated products' statement has always carried two blanks before "order".
+  const QString sentencia =
+      tipoProducto == 2
+          ? u"Select descnumerica from productos where borrar = 0 and mostrarencaja = 0  order "
+            "by descnumerica desc"_s
+          : u"Select descnumerica from productos where borrar = 0 and mostrarencaja = 0 order by "
+            "descnumerica desc"_s;
+  try {
+    Recordset rs(*entorno.ConexionBD, sentencia);
+    QString valor = u"1"_s;
+    if (rs.recordCount() > 0) {
+      rs.moveFirst();
+      valor = QString::number(Entero(rs.field(u"descnumerica"_s)) + 1);
+    }
+    rs.close();
+    return valor;
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(kContextoMensajeNumero, e.descripcion());
+    return std::nullopt;
+  }
+}
+
+bool bcomprobarSiExisteNombre(Entorno& entorno, const QString& nombre, qint64 codigo) {
+  return HayFilas(entorno,
+                  u"Select * from productos where nombre = '"_s + nombre + u"' and codigo <> '"_s +
+                      QString::number(codigo) + u"' and borrar = 0"_s,
+                  kContextoExisteNombre);
+}
+
+ComprobacionDescNumerica bcomprobarSiExisteDescNumerica(Entorno& entorno, const QString& numero,
+                                                        qint64 codigo, bool modificando) {
+  if (!modificando)
+    return {};
+  const qint64 valor = static_cast<qint64>(std::floor(ValJet(numero)));
+  if (valor < 1)
+    return {true, kAvisoDescNumericaVacia};
+  const bool existe =
+      HayFilas(entorno,
+               u"Select * from productos where DescNumerica = "_s + QString::number(valor) +
+                   u" and borrar =0 and codigo <> '"_s + QString::number(codigo) +
+                   u"' and mostrarencaja = 0 and seccion <>'-1'"_s,
+               kContextoExisteDescNumerica);
+  return {existe, existe ? kAvisoDescNumericaExiste : QString()};
+}
+
+bool existeCodBarras(Entorno& entorno, const QString& codigoBarras, qint64 codigo) {
+  if (codigoBarras.isEmpty())
+    return false;
+  return HayFilas(entorno,
+                  u"Select * from productos where codigobarras = '"_s + codigoBarras +
+                      u"' and codigo <> '"_s + QString::number(codigo) + u"'"_s,
+                  kContextoExisteCodBarras);
+}

@@ -1,0 +1,390 @@
+#include <QDate>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QtTest>
+
+#include "codigos_producto.h"
+#include "grabacion_producto.h"
+#include "instalacion_prueba.h"
+#include "listas_productos.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kColumnasProducto =
+    u"select codigo, nombre, descripcion, codigobarras, seccion, coste, MargenComercial, Precio, "
+    "IVA, FechaAlta, Foto, color, proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
+    "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar from productos "_s;
+
+QString Hoy() {
+  return QDate::currentDate().toString(Qt::ISODate);
+}
+
+ProductoFormulario Cana() {
+  ProductoFormulario p;
+  p.nombre = u"Caña"_s;
+  p.descripcion = u"Cerveza de barril"_s;
+  p.codigoBarras = u"8410000000017"_s;
+  p.coste = u"0,6"_s;
+  p.margen = u"1"_s;
+  p.precio = u"1,76"_s;
+  p.iva = u"10"_s;
+  p.stockActual = u"24"_s;
+  p.stockMinimo = u"5"_s;
+  p.unidadMedida = u"Unidades"_s;
+  p.mostrarEnCaja = true;
+  p.optBarra = true;
+  p.optAmbos = true;
+  p.color = u"255"_s;
+  p.foto = u"cana.jpg"_s;
+  p.impresora = u"2"_s;
+  p.descNumerica = u"12"_s;
+  p.posicion = u"3"_s;
+  p.familia = u"7"_s;
+  p.proveedores = {LineaLista(u"Mahou"_s, u"P01"_s),
+                   LineaLista(u"Distribuciones Sur"_s, u"PRV123"_s)};
+  return p;
+}
+
+// Runs a statement straight on the test's database, bypassing the program's own checks (a
+// trigger's body holds semicolons).
+void Directo(InstalacionPrueba& prueba, const QString& sentencia) {
+  QSqlQuery q(prueba.conexion().bd());
+  QVERIFY2(q.exec(sentencia), qPrintable(q.lastError().text()));
+}
+
+// An existing product 5 with its stock row and one supplier link, written long ago.
+void ProductoAntiguo(InstalacionPrueba& prueba) {
+  prueba.ejecutar(
+      {u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
+       "MargenComercial, Precio, IVA, FechaAlta, Foto, color, proveedor, unidadMedida, "
+       "StockMinimo, MostrarEnCaja, hechoen, tipoprod, DescNumerica, Orden, impresora, "
+       "productoespecial, Borrar) values ('5', 'Tinto', 'Vino', '', '3', 1.5, 0, 2.5, 21, "
+       "'2001-02-03', 'vieja.jpg', 65280, 'P09', 'Litros', 2, 0, 2, 0, 40, 8, 0, 0, 0)"_s,
+       u"insert into stock (Producto, Stock, StockMinimo, ConsumicionesDisponibles) values (5, 9, "
+       "2, 4)"_s,
+       u"insert into productoproveedor (producto, proveedor, coste) values ('5', 'P09', 3.25)"_s});
+}
+
+}  // namespace
+
+class TestGuardadoGrabacion : public QObject {
+  Q_OBJECT
+ private slots:
+  void initTestCase() { QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain)); }
+  void unProductoNuevoSeEscribeColumnaAColumna();
+  void sinFamiliaNiFotoNiLugarLasColumnasQuedanComoDebe();
+  void elProductoEspecialSoloSeGuardaEnRestauranteYCopas();
+  void modificarReescribeLaFechaYConservaLaFoto();
+  void modificarSinFilaDeStockLaAnade();
+  void modificarUnProductoQueNoExisteNoEscribeNada();
+  void eliminarMarcaElProductoYBorraSoloSuStock();
+  void preguntarEliminarSoloSigueConSi();
+  void sinTablaDeStockElNuevoNoDejaNada();
+  void unFalloAlReescribirElStockDejaLasFilasAntiguas();
+  void unImporteNoNumericoNoGrabaNada();
+  void dosTerminalesConElMismoCodigoGuardanConCodigosDistintos();
+  void quienPierdeSiempreElCodigoDesisteTrasTresReintentos();
+};
+
+void TestGuardadoGrabacion::unProductoNuevoSeEscribeColumnaAColumna() {
+  InstalacionPrueba prueba;
+  prueba.entorno().sesion.tipo_programa = u"RESTAURANTE"_s;
+  // A deleted product still holds code 9: the new one takes 10.
+  prueba.ejecutar({u"insert into productos (codigo, nombre, borrar) values ('9', 'Viejo', -1)"_s,
+                   u"insert into productoproveedor (producto, proveedor, coste) values ('10', "
+                   "'P77', 1)"_s});
+
+  const std::optional<qint64> codigo = GrabarProductoNuevo(prueba.entorno(), Cana());
+  QCOMPARE(codigo, std::optional<qint64>(10));
+
+  const QList<QVariantList> filas = prueba.filas(kColumnasProducto + u"where codigo = '10'"_s);
+  QCOMPARE(filas.size(), 1);
+  const QVariantList& f = filas.first();
+  QCOMPARE(f.at(0).toString(), u"10"_s);
+  QCOMPARE(f.at(1).toString(), u"Caña"_s);
+  QCOMPARE(f.at(2).toString(), u"Cerveza de barril"_s);
+  QCOMPARE(f.at(3).toString(), u"8410000000017"_s);
+  QCOMPARE(f.at(4).toString(), u"7"_s);  // the family's code, not "-1"
+  QCOMPARE(f.at(5).toDouble(), 0.6);
+  QCOMPARE(f.at(6).toDouble(), 1.0);
+  QCOMPARE(f.at(7).toDouble(), 1.76);
+  QCOMPARE(f.at(8).toDouble(), 10.0);
+  QCOMPARE(f.at(9).toString(), Hoy());
+  QCOMPARE(f.at(10).toString(), u"cana.jpg"_s);
+  QCOMPARE(f.at(11).toInt(), 255);
+  QCOMPARE(f.at(12).toString(), u"P01"_s);  // the first assigned supplier
+  QCOMPARE(f.at(13).toString(), u"Unidades"_s);
+  QCOMPARE(f.at(14).toDouble(), 5.0);
+  QCOMPARE(f.at(15).toInt(), 0);  // shown on the till
+  QCOMPARE(f.at(16).toInt(), 1);  // bar
+  QCOMPARE(f.at(17).toInt(), 2);  // both
+  QCOMPARE(f.at(18).toInt(), 12);
+  QCOMPARE(f.at(19).toInt(), 3);
+  QCOMPARE(f.at(20).toInt(), 2);
+  QCOMPARE(f.at(21).toInt(), 0);
+  QCOMPARE(f.at(22).toInt(), 0);
+
+  const QList<QVariantList> stock =
+      prueba.filas(u"select Producto, Stock, StockMinimo, ConsumicionesDisponibles from stock"_s);
+  QCOMPARE(stock, (QList<QVariantList>{{10, 24.0, 5.0, 0.0}}));
+
+  // The links written for the unsaved code are replaced by the assigned list, at cost 0.
+  const QList<QVariantList> enlaces =
+      prueba.filas(u"select producto, proveedor, coste from productoproveedor order by rowid"_s);
+  QCOMPARE(enlaces, (QList<QVariantList>{{u"10"_s, u"P01"_s, 0.0}, {u"10"_s, u"PRV123"_s, 0.0}}));
+  QVERIFY(prueba.log().isEmpty());
+}
+
+void TestGuardadoGrabacion::sinFamiliaNiFotoNiLugarLasColumnasQuedanComoDebe() {
+  InstalacionPrueba prueba;
+  ProductoFormulario p = Cana();
+  p.familia.clear();
+  p.foto.clear();
+  p.color.clear();
+  p.codigoBarras.clear();
+  p.optBarra = false;
+  p.chkProdEspecial = true;  // an entry product: no place is written
+  p.optAmbos = false;
+  p.optCocinaBarra = true;
+  p.mostrarEnCaja = false;
+  p.margen.clear();
+  p.precio.clear();
+  p.stockActual.clear();
+  p.impresora = u"0"_s;
+  p.descNumerica = u"   "_s;
+  p.posicion = u"0"_s;
+  p.consumiciones = 6.5;
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::optional<qint64>(1));
+
+  const QVariantList f = prueba.filas(kColumnasProducto).value(0);
+  QCOMPARE(f.at(3).toString(), u""_s);
+  QVERIFY(!f.at(3).isNull());  // the empty text, not a missing barcode
+  QCOMPARE(f.at(4).toString(), u"-1"_s);
+  QCOMPARE(f.at(6).toDouble(), 0.0);
+  QCOMPARE(f.at(7).toDouble(), 0.0);
+  QVERIFY(f.at(10).isNull());  // Foto not written
+  QVERIFY(f.at(11).isNull());  // no colour chosen
+  QCOMPARE(f.at(15).toInt(), -1);
+  QVERIFY(f.at(16).isNull());  // hechoen not written
+  QCOMPARE(f.at(17).toInt(), 0);
+  QCOMPARE(f.at(18).toInt(), 1);  // blanks give 1
+  QCOMPARE(f.at(19).toInt(), 0);
+  QCOMPARE(f.at(20).toInt(), 0);
+  QCOMPARE(prueba.filas(u"select Stock, ConsumicionesDisponibles from stock"_s),
+           (QList<QVariantList>{{0.0, 6.5}}));
+}
+
+void TestGuardadoGrabacion::elProductoEspecialSoloSeGuardaEnRestauranteYCopas() {
+  const QList<QPair<QString, QVariant>> casos = {{u"RESTAURANTE"_s, -1},
+                                                 {u"COPAS"_s, -1},
+                                                 {u"FASTFOOD"_s, QVariant()},
+                                                 {u"Restaurante"_s, QVariant()}};
+  for (const auto& [tipo, esperado] : casos) {
+    InstalacionPrueba prueba;
+    prueba.entorno().sesion.tipo_programa = tipo;
+    ProductoFormulario p = Cana();
+    p.chkProdEspecial = true;
+    QVERIFY(GrabarProductoNuevo(prueba.entorno(), p));
+    const QVariant valor =
+        prueba.filas(u"select productoespecial from productos"_s).value(0).value(0);
+    QVERIFY2(valor.isNull() == esperado.isNull(), qPrintable(tipo));
+    if (!esperado.isNull())
+      QCOMPARE(valor.toInt(), esperado.toInt());
+  }
+}
+
+void TestGuardadoGrabacion::modificarReescribeLaFechaYConservaLaFoto() {
+  InstalacionPrueba prueba;
+  prueba.entorno().sesion.tipo_programa = u"COPAS"_s;
+  ProductoAntiguo(prueba);
+  ProductoFormulario p = Cana();
+  p.codigo = 5;
+  p.nombre = u"Tinto de verano"_s;
+  p.foto.clear();      // no new picture chosen
+  p.optBarra = false;  // no place chosen: the stored one stays
+  p.chkProdEspecial = true;
+  p.optAmbos = false;
+  p.optVenta = true;
+  p.proveedores = {LineaLista(u"Bodegas"_s, u"P10"_s)};
+  QVERIFY(modificarProducto(prueba.entorno(), p));
+
+  const QVariantList f = prueba.filas(kColumnasProducto + u"where codigo = '5'"_s).value(0);
+  QCOMPARE(f.at(1).toString(), u"Tinto de verano"_s);
+  QCOMPARE(f.at(4).toString(), u"7"_s);
+  QCOMPARE(f.at(5).toDouble(), 0.6);
+  QCOMPARE(f.at(9).toString(), Hoy());  // the date of creation is rewritten
+  QCOMPARE(f.at(10).toString(), u"vieja.jpg"_s);
+  QCOMPARE(f.at(12).toString(), u"P10"_s);
+  QCOMPARE(f.at(16).toInt(), 2);  // kept
+  QCOMPARE(f.at(17).toInt(), 1);
+  QCOMPARE(f.at(21).toInt(), -1);
+  QCOMPARE(prueba.filas(u"select count(*) from productos"_s).value(0).value(0).toInt(), 1);
+  QCOMPARE(prueba.filas(u"select Producto, Stock, StockMinimo, ConsumicionesDisponibles from "
+                        "stock"_s),
+           (QList<QVariantList>{{5, 24.0, 5.0, 0.0}}));
+  QCOMPARE(prueba.filas(u"select producto, proveedor, coste from productoproveedor"_s),
+           (QList<QVariantList>{{u"5"_s, u"P10"_s, 0.0}}));
+}
+
+void TestGuardadoGrabacion::modificarSinFilaDeStockLaAnade() {
+  InstalacionPrueba prueba;
+  ProductoAntiguo(prueba);
+  prueba.ejecutar({u"delete from stock where producto = 5"_s});
+  ProductoFormulario p = Cana();
+  p.codigo = 5;
+  p.foto = u"nueva.png"_s;
+  QVERIFY(modificarProducto(prueba.entorno(), p));
+  QCOMPARE(prueba.filas(u"select Foto from productos"_s).value(0).value(0).toString(),
+           u"nueva.png"_s);
+  QCOMPARE(prueba.filas(u"select Producto, Stock, StockMinimo, ConsumicionesDisponibles from "
+                        "stock"_s),
+           (QList<QVariantList>{{5, 24.0, 5.0, 0.0}}));
+}
+
+void TestGuardadoGrabacion::modificarUnProductoQueNoExisteNoEscribeNada() {
+  InstalacionPrueba prueba;
+  ProductoFormulario p = Cana();
+  p.codigo = 44;
+  QVERIFY(!modificarProducto(prueba.entorno(), p));
+  QCOMPARE(prueba.filas(u"select count(*) from stock"_s).value(0).value(0).toInt(), 0);
+  QCOMPARE(prueba.filas(u"select count(*) from productoproveedor"_s).value(0).value(0).toInt(), 0);
+  QCOMPARE(prueba.log(), QByteArray("Productos  8, Descripcion: No existe el producto 44\r\n"));
+}
+
+void TestGuardadoGrabacion::eliminarMarcaElProductoYBorraSoloSuStock() {
+  InstalacionPrueba prueba;
+  ProductoAntiguo(prueba);
+  prueba.ejecutar(
+      {u"insert into stock (Producto, Stock) values (6, 1)"_s,
+       u"insert into subproductos (CodProductoPadre, CodProductoHijo) values ('5', '6')"_s});
+  QVERIFY(EliminarProducto(prueba.entorno(), 5));
+  QCOMPARE(prueba.filas(u"select codigo, borrar, nombre from productos"_s),
+           (QList<QVariantList>{{u"5"_s, -1, u"Tinto"_s}}));
+  QCOMPARE(prueba.filas(u"select Producto from stock"_s), (QList<QVariantList>{{6}}));
+  // The links stay, by design.
+  QCOMPARE(prueba.filas(u"select producto, proveedor from productoproveedor"_s),
+           (QList<QVariantList>{{u"5"_s, u"P09"_s}}));
+  QCOMPARE(prueba.filas(u"select count(*) from subproductos"_s).value(0).value(0).toInt(), 1);
+}
+
+void TestGuardadoGrabacion::preguntarEliminarSoloSigueConSi() {
+  DialogosGuion dialogos;
+  dialogos.siguienteRespuesta(ServicioDialogos::Respuesta::No);
+  QVERIFY(!PreguntarEliminar(dialogos));
+  dialogos.siguienteRespuesta(ServicioDialogos::Respuesta::Si);
+  QVERIFY(PreguntarEliminar(dialogos));
+  const DialogosGuion::Llamada llamada = dialogos.llamadas().first();
+  QCOMPARE(llamada.texto, u"¿Esta seguro de que desea eliminar este producto?"_s);
+  QCOMPARE(llamada.botones, ServicioDialogos::Botones::SiNo);
+  QCOMPARE(llamada.icono, ServicioDialogos::Icono::Pregunta);
+}
+
+void TestGuardadoGrabacion::sinTablaDeStockElNuevoNoDejaNada() {
+  InstalacionPrueba prueba;
+  prueba.ejecutar({u"drop table stock"_s});
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), Cana()), std::nullopt);
+  QCOMPARE(prueba.filas(u"select count(*) from productos"_s).value(0).value(0).toInt(), 0);
+  QCOMPARE(prueba.filas(u"select count(*) from productoproveedor"_s).value(0).value(0).toInt(), 0);
+  QCOMPARE(prueba.erroresMostrados().size(), 1);
+  QCOMPARE(prueba.erroresMostrados().first().first, u"Productos  7"_s);
+  QVERIFY(prueba.erroresMostrados().first().second.contains(u"stock"_s));
+}
+
+void TestGuardadoGrabacion::unFalloAlReescribirElStockDejaLasFilasAntiguas() {
+  InstalacionPrueba prueba;
+  ProductoAntiguo(prueba);
+  Directo(prueba,
+          u"create trigger bloqueo before update on stock begin select raise(abort, 'stock "
+          "bloqueado'); end"_s);
+  ProductoFormulario p = Cana();
+  p.codigo = 5;
+  QVERIFY(!modificarProducto(prueba.entorno(), p));
+
+  const QVariantList f = prueba.filas(kColumnasProducto + u"where codigo = '5'"_s).value(0);
+  QCOMPARE(f.at(1).toString(), u"Tinto"_s);
+  QCOMPARE(f.at(9).toString(), u"2001-02-03"_s);
+  QCOMPARE(f.at(12).toString(), u"P09"_s);
+  QCOMPARE(prueba.filas(u"select Stock from stock"_s), (QList<QVariantList>{{9.0}}));
+  QCOMPARE(prueba.filas(u"select producto, proveedor, coste from productoproveedor"_s),
+           (QList<QVariantList>{{u"5"_s, u"P09"_s, 3.25}}));
+  QCOMPARE(prueba.log(), QByteArray("Productos  8, Descripcion: stock bloqueado\r\n"));
+}
+
+void TestGuardadoGrabacion::unImporteNoNumericoNoGrabaNada() {
+  // The margin is not among the required checks; a margin that is no number stops the save.
+  InstalacionPrueba prueba;
+  ProductoFormulario p = Cana();
+  p.margen = u"uno"_s;
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::nullopt);
+  QCOMPARE(prueba.filas(u"select count(*) from productos"_s).value(0).value(0).toInt(), 0);
+  QCOMPARE(prueba.log(),
+           QByteArray("Productos  7, Descripcion: El valor \xABuno\xBB no es v\xE1lido para el "
+                      "campo MargenComercial\r\n"));
+}
+
+void TestGuardadoGrabacion::dosTerminalesConElMismoCodigoGuardanConCodigosDistintos() {
+  InstalacionPrueba prueba;
+  DialogosGuion dialogosOtra;
+  Entorno otra(prueba.entorno().instalacion, dialogosOtra);
+  otra.ConexionBD->abrirSQLite(prueba.rutaPrincipal());
+
+  ProductoFormulario deOtra = Cana();
+  deOtra.nombre = u"De la otra terminal"_s;
+  deOtra.proveedores = {LineaLista(u"Otro"_s, u"P55"_s)};
+  std::optional<qint64> codigoOtra;
+  QList<qint64> asignados;
+  // This terminal reads the next code; before it writes, the other terminal saves under the
+  // same code.
+  auto asignar = [&](Conexion& conexion) {
+    const qint64 codigo = SiguienteCodigoProducto(conexion);
+    if (asignados.isEmpty())
+      codigoOtra = GrabarProductoNuevo(otra, deOtra);
+    asignados.append(codigo);
+    return codigo;
+  };
+  const std::optional<qint64> codigo = GrabarProductoNuevo(prueba.entorno(), Cana(), asignar);
+
+  QCOMPARE(codigoOtra, std::optional<qint64>(1));
+  QCOMPARE(asignados, (QList<qint64>{1, 2}));
+  QCOMPARE(codigo, std::optional<qint64>(2));
+  QCOMPARE(prueba.filas(u"select codigo, nombre from productos order by codigo"_s),
+           (QList<QVariantList>{{u"1"_s, u"De la otra terminal"_s}, {u"2"_s, u"Caña"_s}}));
+  QCOMPARE(prueba.filas(u"select Producto from stock order by Producto"_s),
+           (QList<QVariantList>{{1}, {2}}));
+  QCOMPARE(prueba.filas(u"select producto, proveedor from productoproveedor order by rowid"_s),
+           (QList<QVariantList>{{u"1"_s, u"P55"_s}, {u"2"_s, u"P01"_s}, {u"2"_s, u"PRV123"_s}}));
+  QVERIFY(prueba.log().isEmpty());
+}
+
+void TestGuardadoGrabacion::quienPierdeSiempreElCodigoDesisteTrasTresReintentos() {
+  InstalacionPrueba prueba;
+  DialogosGuion dialogosOtra;
+  Entorno otra(prueba.entorno().instalacion, dialogosOtra);
+  otra.ConexionBD->abrirSQLite(prueba.rutaPrincipal());
+  ProductoFormulario deOtra = Cana();
+  deOtra.nombre = u"Rápido"_s;
+  int intentos = 0;
+  auto asignar = [&](Conexion& conexion) {
+    const qint64 codigo = SiguienteCodigoProducto(conexion);
+    GrabarProductoNuevo(otra, deOtra);
+    ++intentos;
+    return codigo;
+  };
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), Cana(), asignar), std::nullopt);
+  QCOMPARE(intentos, 1 + kReintentosCodigo);
+  QCOMPARE(prueba.filas(u"select count(*) from productos where nombre = 'Caña'"_s)
+               .value(0)
+               .value(0)
+               .toInt(),
+           0);
+  QCOMPARE(prueba.filas(u"select count(*) from productos"_s).value(0).value(0).toInt(), 4);
+  QCOMPARE(prueba.erroresMostrados().size(), 1);
+  QCOMPARE(prueba.erroresMostrados().first().first, u"Productos  7"_s);
+  QVERIFY2(prueba.erroresMostrados().first().second.contains(u"UNIQUE"_s),
+           qPrintable(prueba.erroresMostrados().first().second));
+}
+
+QTEST_MAIN(TestGuardadoGrabacion)
+#include "test_guardado_grabacion.moc"
