@@ -269,31 +269,3 @@ QString AdaptarSentencia(const QString& sentencia, Motor motor) {
     r += t.texto;
   return r;
 }
-
-bool TieneSegundaSentencia(const QString& sentencia) {
-  const QList<Trozo> trozos = Trocear(sentencia);
-  bool puntoYComa = false;
-  for (const Trozo& t : trozos) {
-    if (puntoYComa) {
-      if (t.literal)
-        return true;
-    }
-    for (qsizetype i = 0; i < t.texto.size() && !t.literal; ++i) {
-      const QChar c = t.texto.at(i);
-      if (puntoYComa && !c.isSpace() && c != u';') {
-        // a comment after the ';' is harmless only if it is all that follows
-        if (t.texto.mid(i, 2) == u"--"_s) {
-          const qsizetype fin = t.texto.indexOf(u'\n', i);
-          if (fin < 0)
-            break;
-          i = fin;
-          continue;
-        }
-        return true;
-      }
-      if (c == u';')
-        puntoYComa = true;
-    }
-  }
-  return false;
-}

@@ -122,6 +122,26 @@ void TestDialecto::segundaSentencia_data() {
   QTest::newRow("comment line, then a statement")
       << u"select 1; -- nada\ndelete from stock"_s << true;
   QTest::newRow("literal after the ;") << u"select 1; 'x'"_s << true;
+  // Values that read as one statement to a reader of '...' only, and as two to an engine.
+  QTest::newRow("escape string") << producto + u"x' and E'\\'' = 'a'; delete from stock; --'"_s
+                                 << true;
+  QTest::newRow("dollar quote") << producto + u"x' and $$'$$ = 'a'; delete from stock; --'"_s
+                                << true;
+  QTest::newRow("tagged dollar quote")
+      << producto + u"x' and $q$'$q$ = 'a'; delete from stock; --'"_s << true;
+  QTest::newRow("quote inside a line comment")
+      << producto + u"x' -- '\n; delete from stock; --'"_s << true;
+  QTest::newRow("quote inside a block comment")
+      << producto + u"x' /* ' */ ; delete from stock; --'"_s << true;
+  QTest::newRow("quote inside a quoted name")
+      << producto + u"x' and 1 = (select 1 as \"'\"); delete from stock; --'"_s << true;
+  QTest::newRow("quote inside a bracketed name")
+      << producto + u"x' and [']; delete from stock; --'"_s << true;
+  QTest::newRow("backslash before the closing quote")
+      << producto + u"x\\' ; delete from stock; --'"_s << true;
+  QTest::newRow("$ and \\ inside plain values")
+      << u"insert into traducciones (caption) values ('Precio $; total \\')"_s << false;
+  QTest::newRow("parameter, not a dollar quote") << u"select $1 from t where a = 'b;c'"_s << false;
   QTest::newRow("; inside a literal") << producto + u"1; delete from stock'"_s << false;
   QTest::newRow("; inside a literal with doubled apostrophes")
       << u"insert into traducciones (caption) values ('l''a; b')"_s << false;
