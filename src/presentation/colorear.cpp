@@ -40,6 +40,18 @@ void PonerRol(QWidget* w, QPalette::ColorRole rol, const QColor& color, bool tam
   w->setPalette(p);
 }
 
+// The styles shade a button's face away from its palette colour; the scheme's buttons show
+// their colour flat, as on the till, darker while pressed and with a stronger edge with focus.
+// The text colour is not part of it: it stays the palette's, greyed when disabled.
+void PonerCaraBoton(QWidget* boton, const QColor& color) {
+  boton->setStyleSheet(
+      u"QPushButton { background-color: %1; border: 1px solid %2; border-radius: 4px; "
+      "padding: 2px 6px; } QPushButton:pressed { background-color: %3; } "
+      "QPushButton:focus { border: 2px solid %4; }"_s.arg(color.name(), color.darker(160).name(),
+                                                          color.darker(125).name(),
+                                                          color.darker(250).name()));
+}
+
 int Profundidad(const QWidget* marco, const QWidget* formulario) {
   int n = 0;
   for (const QWidget* p = marco->parentWidget(); p && p != formulario; p = p->parentWidget()) {
@@ -66,6 +78,9 @@ void PintarMarco(QWidget* marco, const QWidget* formulario, const QList<QColor>&
   const int porNombre = ElementoPorNombre(marco->objectName());
   const int elemento = porNombre >= 0 ? porNombre : std::min(Profundidad(marco, formulario), 3);
   PonerColorFondo(marco, e.at(elemento));
+  // The caption is drawn on the frame's own background: it takes the labels' text rule, or a
+  // titled frame on a dark element would show a black caption that cannot be read.
+  PonerColorTexto(marco, MismoColor(e.at(elemento), e.at(5)) ? e.at(2) : e.at(5));
 }
 
 // Labels and other controls: text element 5, unless the container is painted with it.
@@ -81,6 +96,7 @@ void PonerColorFondo(QWidget* control, const QColor& color) {
   switch (TipoDe(control)) {
     case TipoControl::Boton:
       PonerRol(control, QPalette::Button, color, true);
+      PonerCaraBoton(control, color);
       break;
     case TipoControl::Entrada:
       PonerRol(control, QPalette::Base, color, true);
@@ -98,7 +114,8 @@ void PonerColorFondo(QWidget* control, const QColor& color) {
       }
       break;
     default:
-      PonerRol(control, QPalette::Window, color, true);
+      // Check and option buttons fill with the button role, frames and labels with the window.
+      PonerRol(control, control->backgroundRole(), color, true);
       control->setAutoFillBackground(true);
       break;
   }
@@ -116,7 +133,7 @@ QColor ColorFondo(const QWidget* control) {
       }
       return control->palette().color(QPalette::Button);
     default:
-      return control->palette().color(QPalette::Window);
+      return control->palette().color(control->backgroundRole());
   }
 }
 
@@ -130,7 +147,11 @@ void PonerColorTexto(QWidget* control, const QColor& color) {
       PonerRol(control, QPalette::ButtonText, color, false);
       break;
     default:
+      // The styles draw the captions of check and option buttons with the window text role.
       PonerRol(control, QPalette::WindowText, color, false);
+      if (control->foregroundRole() != QPalette::WindowText) {
+        PonerRol(control, control->foregroundRole(), color, false);
+      }
       break;
   }
 }

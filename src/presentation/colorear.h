@@ -22,7 +22,9 @@ class Colorear {
  public:
   explicit Colorear(Entorno& entorno);
 
-  // Paints every control of the form by kind, frame depth and name. A terminal with no usable
+  // Paints every control of the form by kind, frame depth and name. Frame captions take the
+  // labels' text colour on the frame's own background, so that they can be read on every
+  // scheme. A terminal with no usable
   // scheme (an empty "colores", a short or non-numeric row) throws ErrorBD before anything is
   // painted, and the form keeps its colours.
   void colorear(QWidget* formulario);
