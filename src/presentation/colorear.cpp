@@ -209,8 +209,11 @@ void PintarFormulario(QWidget* formulario, const QList<QColor>& e) {
         PonerColorTexto(control, TextoSobre(contenedor, e));
         break;
       case TipoControl::Otro:
-        if (contenedor)
-          PonerColorFondo(control, ColorFondo(contenedor));
+        // Given the container's colour but not filled: the container shows through, with
+        // the shading that the style gives the inside of a frame.
+        if (contenedor) {
+          PonerRol(control, control->backgroundRole(), ColorFondo(contenedor), true);
+        }
         PonerColorTexto(control, TextoSobre(contenedor, e));
         break;
     }

@@ -140,6 +140,7 @@ class TestColorear : public QObject {
     VERIFICAR_PARECIDO(Pixel(zoom, {zoom->width() - 6, zoom->height() - 6}), E(kClaro, 8), 4);
     QWidget* mostrar = Hijo(f.get(), u"ch_Mostrar"_s);
     VERIFICAR_PARECIDO(Pixel(mostrar, {mostrar->width() - 4, 4}), E(kClaro, 0), 4);
+    QVERIFY(!mostrar->autoFillBackground());
     QWidget* nuevo = Hijo(f.get(), u"cmd_nuevo"_s);
     QCOMPARE(Pixel(nuevo, {12, nuevo->height() / 2}), E(kClaro, 4));
     QWidget* coste = Hijo(f.get(), u"txt_coste"_s);
