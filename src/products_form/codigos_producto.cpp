@@ -30,7 +30,7 @@ bool HayFilas(Entorno& entorno, const QString& sentencia, const QString& context
 
 }  // namespace
 
-qint64 SiguienteCodigoProducto(Conexion& conexion) {
+qint64 CodigoProductoNuevo(Conexion& conexion) {
   Recordset rs(conexion, u"select codigo from productos order by val(codigo)"_s);
   qint64 codigo = 1;
   if (rs.recordCount() > 0) {
@@ -43,7 +43,7 @@ qint64 SiguienteCodigoProducto(Conexion& conexion) {
 
 std::optional<qint64> SiguienteCodigo(Entorno& entorno) {
   try {
-    return SiguienteCodigoProducto(*entorno.ConexionBD);
+    return CodigoProductoNuevo(*entorno.ConexionBD);
   } catch (const ErrorBD& e) {
     entorno.RegistrarError(kContextoSiguienteCodigo, e.descripcion());
     return std::nullopt;

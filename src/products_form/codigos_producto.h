@@ -25,7 +25,7 @@ inline const QString kAvisoDescNumericaVacia =
 // The code for a new product: one more than the largest numeric value of every code, deleted
 // products included, so that a deleted product's code is never given again; 1 on an empty
 // table. Throws ErrorBD.
-qint64 SiguienteCodigoProducto(Conexion& conexion);
+qint64 CodigoProductoNuevo(Conexion& conexion);
 // The same for the form: a failure is logged and gives nothing.
 std::optional<qint64> SiguienteCodigo(Entorno& entorno);
 

@@ -127,7 +127,7 @@ std::optional<qint64> GrabarProductoNuevo(Entorno& entorno, const ProductoFormul
     try {
       // The code is read before the transaction starts, so that allocating holds no lock that
       // would keep another terminal from saving.
-      codigo = asignar ? asignar(conexion) : SiguienteCodigoProducto(conexion);
+      codigo = asignar ? asignar(conexion) : CodigoProductoNuevo(conexion);
       Transaccion transaccion(conexion);
       EscribirProductoNuevo(conexion, codigo, producto, entorno.sesion.tipo_programa);
       transaccion.confirmar();

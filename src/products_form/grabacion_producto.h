@@ -51,7 +51,7 @@ struct ProductoFormulario {
   std::optional<double> consumiciones;  // consumptions available; none is 0
 };
 
-// Allocates the code of a new product on a connection (SiguienteCodigoProducto by default).
+// Allocates the code of a new product on a connection (CodigoProductoNuevo by default).
 using AsignadorCodigo = std::function<qint64(Conexion&)>;
 
 // Saves a new product: its row, its stock row and its supplier links in one transaction, under

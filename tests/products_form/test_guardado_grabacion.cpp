@@ -338,7 +338,7 @@ void TestGuardadoGrabacion::dosTerminalesConElMismoCodigoGuardanConCodigosDistin
   // This terminal reads the next code; before it writes, the other terminal saves under the
   // same code.
   auto asignar = [&](Conexion& conexion) {
-    const qint64 codigo = SiguienteCodigoProducto(conexion);
+    const qint64 codigo = CodigoProductoNuevo(conexion);
     if (asignados.isEmpty())
       codigoOtra = GrabarProductoNuevo(otra, deOtra);
     asignados.append(codigo);
@@ -367,7 +367,7 @@ void TestGuardadoGrabacion::quienPierdeSiempreElCodigoDesisteTrasTresReintentos(
   deOtra.nombre = u"Rápido"_s;
   int intentos = 0;
   auto asignar = [&](Conexion& conexion) {
-    const qint64 codigo = SiguienteCodigoProducto(conexion);
+    const qint64 codigo = CodigoProductoNuevo(conexion);
     GrabarProductoNuevo(otra, deOtra);
     ++intentos;
     return codigo;
