@@ -14,7 +14,7 @@ paquetes=(
   libqt6sql6-sqlite libqt6sql6-odbc libqt6sql6-psql
   # the engines behind them
   libsqlite3-dev
-  unixodbc unixodbc-dev odbcinst libsqliteodbc
+  unixodbc unixodbc-dev odbcinst libsqliteodbc odbc-postgresql
   postgresql postgresql-contrib
   # tests: Google Test and Benchmark, a virtual display, a font for offscreen screens,
   # runuser (the PostgreSQL server of the tests runs as the postgres user when we are root)

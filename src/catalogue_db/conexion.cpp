@@ -50,6 +50,29 @@ QString SinExtension(const QString& ruta) {
   return ruta.left(ruta.size() - info.suffix().size() - 1);
 }
 
+// The connection string as Qt's ODBC driver wants it. The driver puts "DSN=" in front of the
+// string itself unless it names a driver, so a data source's string goes without its "dsn=" key.
+// The password goes in braces: psqlODBC reads "%QQ" in a bare value as an escaped byte, and
+// every other driver reads a braced value as it stands.
+QString CadenaParaQtOdbc(const QString& cadena) {
+  const QMap<QString, QString> pares = ParesDeCadena(cadena);
+  if (!pares.contains(u"dsn"_s) || pares.contains(u"driver"_s) || pares.contains(u"filedsn"_s) ||
+      pares.contains(u"server"_s)) {
+    return cadena;
+  }
+  QStringList partes{pares.value(u"dsn"_s).trimmed()};
+  for (auto it = pares.cbegin(); it != pares.cend(); ++it) {
+    if (it.key() == u"dsn"_s)
+      continue;
+    QString valor = it.value();
+    if (it.key() == u"pwd"_s || valor.contains(u';')) {
+      valor = u'{' + valor.replace(u"}"_s, u"}}"_s) + u'}';
+    }
+    partes.append(it.key() + u'=' + valor);
+  }
+  return partes.join(u';') + u';';
+}
+
 }  // namespace
 
 QString DescripcionError(const QSqlError& error) {
@@ -95,7 +118,7 @@ void Conexion::abrir(const QString& cadena, const OrigenesDatos& origenes) {
   cerrar();
   const QMap<QString, QString> pares = ParesDeCadena(cadena);
   const OrigenDatos* origen =
-      pares.contains(u"dsn"_s) ? origenes.buscar(pares.value(u"dsn"_s)) : nullptr;
+      pares.contains(u"dsn"_s) ? origenes.buscar(pares.value(u"dsn"_s).trimmed()) : nullptr;
   if (origen && origen->tipo == OrigenDatos::Tipo::SQLite) {
     if (!QFileInfo::exists(origen->archivo)) {
       throw ErrorBD(u"No se encuentra el archivo de base de datos %1"_s.arg(origen->archivo));
@@ -115,13 +138,8 @@ void Conexion::abrir(const QString& cadena, const OrigenesDatos& origenes) {
     despuesDeAbrir({});
     return;
   }
-  // Qt's ODBC driver puts "DSN=" in front of the string itself unless it names a driver.
-  QString texto = cadena;
-  const QString inicio = texto.trimmed().left(4);
-  if (inicio.compare(u"dsn="_s, Qt::CaseInsensitive) == 0)
-    texto = texto.trimmed().mid(4);
   bd_ = QSqlDatabase::addDatabase(u"QODBC"_s, nombre_);
-  bd_.setDatabaseName(texto);
+  bd_.setDatabaseName(CadenaParaQtOdbc(cadena));
   if (!bd_.open())
     fallar(DescripcionError(bd_.lastError()));
   despuesDeAbrir({});

@@ -13,7 +13,9 @@
 //   "odbc"        the suite's connection string through unixODBC and the SQLite ODBC driver,
 //                 with the data source defined in a private odbc.ini (ODBCSYSINI / ODBCINI);
 //   "postgresql"  the suite's connection string mapped by the installation to a throwaway
-//                 server (started on first use; a server that cannot start fails the test).
+//                 server (started on first use; a server that cannot start fails the test);
+//   "odbc-postgresql"  the same server through unixODBC and psqlODBC, by a data source of the
+//                 private odbc.ini.
 // Build one per test program, in initTestCase, before any ODBC call.
 class MotoresPrueba {
  public:
@@ -34,6 +36,9 @@ class MotoresPrueba {
   PostgresPrueba* postgres();
 
  private:
+  // Defines "velandria" (SQLite) and, given a database, "lumbraCopas" (PostgreSQL) for ODBC.
+  bool escribirOdbcIni(const OrigenDatos& postgres);
+
   QTemporaryDir dir_;
   std::unique_ptr<PostgresPrueba> postgres_;
   int bases_ = 0;

@@ -1,4 +1,5 @@
 #include <QSqlDriver>
+#include <QSqlError>
 #include <QTest>
 
 #include "error_bd.h"
@@ -17,6 +18,7 @@ class TestOdbc : public QObject {
   void cleanupTestCase() { motores_.reset(); }
   void cadenaDelProgramaSinMapeo();
   void origenInexistente();
+  void postgresPorOdbc();
 
  private:
   std::unique_ptr<MotoresPrueba> motores_;
@@ -61,6 +63,30 @@ void TestOdbc::origenInexistente() {
   }
   QVERIFY(!c.abierta());
   QVERIFY_THROWS_EXCEPTION(ErrorBD, c.ejecutar(u"select 1"_s));
+}
+
+// psqlODBC reads "%QQ" in a bare password as an escaped byte: the password must reach it in
+// braces, and the engine behind the data source is PostgreSQL, with its rewrites.
+void TestOdbc::postgresPorOdbc() {
+  Conexion c;
+  ABRIR_NUEVA(*motores_, c, u"odbc-postgresql"_s);
+  QCOMPARE(c.bd().driverName(), u"QODBC"_s);
+  QCOMPARE(c.motor(), Motor::PostgreSQL);
+  QCOMPARE(c.rutaPredeterminada(), u"copas"_s);
+  c.ejecutar(u"insert into productos (codigo, orden, borrar) values ('1', 3, 0)"_s);
+  c.ejecutar(u"insert into productos (codigo, borrar) values ('2', 0)"_s);
+  Recordset rs(c, u"Select orden from productos where borrar = false order by orden"_s);
+  rs.moveLast();
+  QCOMPARE(rs.field(u"orden"_s).toInt(), 3);  // NULL first, as on the original engine
+
+  const QString nombre = u"sin_llaves"_s;
+  {
+    QSqlDatabase bd = QSqlDatabase::addDatabase(u"QODBC"_s, nombre);
+    bd.setDatabaseName(u"lumbraCopas;pwd=KorvanitesX%QQRT;"_s);
+    QVERIFY(!bd.open());
+    QVERIFY2(bd.lastError().text().contains(u"password"_s), qPrintable(bd.lastError().text()));
+  }
+  QSqlDatabase::removeDatabase(nombre);
 }
 
 QTEST_GUILESS_MAIN(TestOdbc)

@@ -354,7 +354,7 @@ void TestRecordset::conversionAlTipoDeLaColumna() {
   QCOMPARE(filas[1][0].toString(), u"2"_s);
   QCOMPARE(filas[1][2].toInt(), 3);
   QVERIFY(filas[1][3].isNull());
-  if (motor != u"postgresql"_s) {
+  if (c.motor() != Motor::PostgreSQL) {  // SQLite keeps a type per value
     const auto tipos =
         FilasDe(c, u"select typeof(coste), typeof(codigo), typeof(orden) from productos"_s);
     QCOMPARE(tipos[0][0].toString(), u"real"_s);
