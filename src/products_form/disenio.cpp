@@ -1,0 +1,156 @@
+#include "disenio.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProxyStyle>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleFactory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename T>
+T* Colocar(T* control, const QString& nombre, const QRect& geometria) {
+  control->setObjectName(nombre);
+  control->setGeometry(geometria);
+  return control;
+}
+
+}  // namespace
+
+QPushButton* CrearBoton(QWidget* padre, const QString& nombre, const QString& caption,
+                        const QRect& geometria) {
+  auto* b = Colocar(new QPushButton(caption, padre), nombre, geometria);
+  // A touch screen has no keyboard focus to show: a button keeps the field's focus, so that
+  // the keys of the on-screen keyboard type where the manager was typing.
+  b->setFocusPolicy(Qt::TabFocus);
+  return b;
+}
+
+QLabel* CrearEtiqueta(QWidget* padre, const QString& nombre, const QString& caption,
+                      const QRect& geometria) {
+  auto* l = Colocar(new QLabel(caption, padre), nombre, geometria);
+  l->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  l->setWordWrap(geometria.height() >= 2 * disenio::kAltoToque - 8);
+  return l;
+}
+
+QLabel* CrearDato(QWidget* padre, const QString& nombre, const QString& caption,
+                  const QRect& geometria) {
+  QLabel* l = CrearEtiqueta(padre, nombre, caption, geometria);
+  PonerLetra(l, disenio::kLetra, true);
+  return l;
+}
+
+QLineEdit* CrearCampo(QWidget* padre, const QString& nombre, const QRect& geometria) {
+  return Colocar(new QLineEdit(padre), nombre, geometria);
+}
+
+QComboBox* CrearCombo(QWidget* padre, const QString& nombre, const QRect& geometria) {
+  return Colocar(new QComboBox(padre), nombre, geometria);
+}
+
+QCheckBox* CrearCasilla(QWidget* padre, const QString& nombre, const QString& caption,
+                        const QRect& geometria) {
+  auto* c = Colocar(new QCheckBox(caption, padre), nombre, geometria);
+  c->setFocusPolicy(Qt::TabFocus);
+  return c;
+}
+
+QRadioButton* CrearOpcion(QWidget* padre, const QString& nombre, const QString& caption,
+                          const QRect& geometria) {
+  auto* o = Colocar(new QRadioButton(caption, padre), nombre, geometria);
+  o->setFocusPolicy(Qt::TabFocus);
+  return o;
+}
+
+QListWidget* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria) {
+  auto* l = Colocar(new QListWidget(padre), nombre, geometria);
+  // The code of each line stands far to the right, out of sight; it must stay there.
+  l->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  l->setTextElideMode(Qt::ElideNone);
+  return l;
+}
+
+QLabel* CrearImagen(QWidget* padre, const QString& nombre, const QRect& geometria) {
+  auto* l = Colocar(new QLabel(padre), nombre, geometria);
+  l->setFrameShape(QFrame::Box);
+  l->setAlignment(Qt::AlignCenter);
+  l->setAutoFillBackground(true);
+  l->setProperty("imagen", true);
+  return l;
+}
+
+QGroupBox* CrearMarco(QWidget* padre, const QString& nombre, const QString& titulo,
+                      const QRect& geometria) {
+  auto* g = Colocar(new QGroupBox(titulo, padre), nombre, geometria);
+  g->setFlat(true);
+  g->setAutoFillBackground(true);
+  return g;
+}
+
+void PonerLetra(QWidget* control, int puntos, bool negrita) {
+  QFont f = control->font();
+  f.setPointSize(puntos);
+  f.setBold(negrita);
+  control->setFont(f);
+}
+
+void PintarFondo(QWidget* control, const QColor& color) {
+  if (!control || !color.isValid())
+    return;
+  QPalette p = control->palette();
+  if (qobject_cast<QPushButton*>(control)) {
+    p.setColor(QPalette::Button, color);
+  } else {
+    p.setColor(QPalette::Base, color);
+  }
+  control->setPalette(p);
+}
+
+void DesmarcarOpcion(QRadioButton* opcion) {
+  const bool exclusiva = opcion->autoExclusive();
+  opcion->setAutoExclusive(false);
+  opcion->setChecked(false);
+  opcion->setAutoExclusive(exclusiva);
+}
+
+namespace {
+
+constexpr int kLadoMarca = 24;
+
+class EstiloMarcasGrandes : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int pixelMetric(PixelMetric metrica, const QStyleOption* opcion,
+                  const QWidget* control) const override {
+    switch (metrica) {
+      case PM_IndicatorWidth:
+      case PM_IndicatorHeight:
+      case PM_ExclusiveIndicatorWidth:
+      case PM_ExclusiveIndicatorHeight:
+        return kLadoMarca;
+      default:
+        return QProxyStyle::pixelMetric(metrica, opcion, control);
+    }
+  }
+};
+
+}  // namespace
+
+void AgrandarMarcas(QWidget* formulario) {
+  auto* estilo = new EstiloMarcasGrandes(QStyleFactory::create(formulario->style()->name()));
+  estilo->setParent(formulario);
+  const QList<QAbstractButton*> botones = formulario->findChildren<QAbstractButton*>();
+  for (QAbstractButton* b : botones) {
+    if (qobject_cast<QCheckBox*>(b) || qobject_cast<QRadioButton*>(b))
+      b->setStyle(estilo);
+  }
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QRect>
+#include <QString>
+
+class QCheckBox;
+class QColor;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+class QWidget;
+
+// The form is drawn for a 1024×768 screen, in pixels of that design; the form adjustment scales
+// it to the terminal's screen. Everything a finger must hit is at least kAltoToque high and
+// every text at least kLetra points, so that a manager can work it by touch.
+namespace disenio {
+constexpr int kAncho = 1024;
+constexpr int kAlto = 768;
+constexpr int kAltoToque = 44;
+constexpr int kLetra = 12;
+constexpr int kLetraTitulo = 14;
+// Height of the product screens; the on-screen keyboard lies below them.
+constexpr int kAltoPantalla = 618;
+}  // namespace disenio
+
+// The controls of the form, each created with its control name, caption and design geometry.
+QPushButton* CrearBoton(QWidget* padre, const QString& nombre, const QString& caption,
+                        const QRect& geometria);
+QLabel* CrearEtiqueta(QWidget* padre, const QString& nombre, const QString& caption,
+                      const QRect& geometria);
+// A label that shows a value rather than naming one: bold, so it reads apart from captions.
+QLabel* CrearDato(QWidget* padre, const QString& nombre, const QString& caption,
+                  const QRect& geometria);
+QLineEdit* CrearCampo(QWidget* padre, const QString& nombre, const QRect& geometria);
+QComboBox* CrearCombo(QWidget* padre, const QString& nombre, const QRect& geometria);
+QCheckBox* CrearCasilla(QWidget* padre, const QString& nombre, const QString& caption,
+                        const QRect& geometria);
+QRadioButton* CrearOpcion(QWidget* padre, const QString& nombre, const QString& caption,
+                          const QRect& geometria);
+QListWidget* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria);
+// A picture box: a framed label that shows a pixmap, or only its back colour.
+QLabel* CrearImagen(QWidget* padre, const QString& nombre, const QRect& geometria);
+// A frame of the form. Frames are flat; the screens and panels that cover others paint their
+// whole background.
+QGroupBox* CrearMarco(QWidget* padre, const QString& nombre, const QString& titulo,
+                      const QRect& geometria);
+
+// Sets a widget's type size in points, and bold when asked.
+void PonerLetra(QWidget* control, int puntos, bool negrita = false);
+// Paints the background of a field or button (the focus colour and the field colour).
+void PintarFondo(QWidget* control, const QColor& color);
+// Unsets an option button even when it is the only one set of its group.
+void DesmarcarOpcion(QRadioButton* opcion);
+// Gives the check and option buttons of a form marks as large as a fingertip can tell apart.
+void AgrandarMarcas(QWidget* formulario);
