@@ -1,6 +1,7 @@
 #include "archivo_ini.h"
 
 #include <QFile>
+#include <QStringDecoder>
 #include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
@@ -8,8 +9,15 @@ using namespace Qt::Literals::StringLiterals;
 ArchivoIni ArchivoIni::Leer(const QString& ruta) {
   QFile f(ruta);
   ArchivoIni ini;
-  if (f.open(QIODevice::ReadOnly))
-    ini = DesdeTexto(QString::fromUtf8(f.readAll()));
+  if (f.open(QIODevice::ReadOnly)) {
+    // UTF-8, or else the Windows code page that the suite's own tools write.
+    const QByteArray bytes = f.readAll();
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString texto = utf8(bytes);
+    if (utf8.hasError())
+      texto = QStringDecoder(QStringDecoder::Latin1)(bytes);
+    ini = DesdeTexto(texto);
+  }
   ini.ruta_ = ruta;
   return ini;
 }

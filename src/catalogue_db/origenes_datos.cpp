@@ -7,8 +7,13 @@ using namespace Qt::Literals::StringLiterals;
 OrigenesDatos OrigenesDatos::DesdeIni(const ArchivoIni& ini, const QString& carpetaBase) {
   OrigenesDatos origenes;
   for (const QString& seccion : ini.secciones()) {
-    const QStringList partes = seccion.split(u' ', Qt::SkipEmptyParts);
-    if (partes.size() != 2 || partes.at(0).compare(u"dsn"_s, Qt::CaseInsensitive) != 0)
+    // "[dsn NAME]": the name is all that follows, blanks included, as ODBC allows them.
+    if (!seccion.startsWith(u"dsn"_s, Qt::CaseInsensitive) || seccion.size() < 4 ||
+        !seccion.at(3).isSpace()) {
+      continue;
+    }
+    const QString nombre = seccion.mid(4).trimmed();
+    if (nombre.isEmpty())
       continue;
     OrigenDatos o;
     const QString tipo = ini.valor(seccion, u"tipo"_s).toLower();
@@ -25,13 +30,13 @@ OrigenesDatos OrigenesDatos::DesdeIni(const ArchivoIni& ini, const QString& carp
       o.puerto = ini.valor(seccion, u"puerto"_s, u"5432"_s).toInt(&puertoValido);
       if (!puertoValido || o.puerto <= 0 || o.puerto > 65535)
         o.puerto = 5432;
-      o.baseDatos = ini.valor(seccion, u"basedatos"_s, partes.at(1));
+      o.baseDatos = ini.valor(seccion, u"basedatos"_s, nombre);
       o.usuario = ini.valor(seccion, u"usuario"_s);
       o.clave = ini.valor(seccion, u"clave"_s);
     } else {
       continue;  // "odbc" or unknown: the name goes to ODBC as given
     }
-    origenes.mapear(partes.at(1), o);
+    origenes.mapear(nombre, o);
   }
   return origenes;
 }

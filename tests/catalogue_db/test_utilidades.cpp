@@ -126,6 +126,12 @@ void TestUtilidades::archivoIniDeDisco() {
   const ArchivoIni ini = ArchivoIni::Leer(ruta);
   QCOMPARE(ini.secciones(), QStringList{u"dsn informes"_s});
   QCOMPARE(ini.valor(u"dsn informes"_s, u"archivo"_s), u"Informes.db"_s);
+
+  // Written by a Windows tool in its code page, not UTF-8.
+  QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+  f.write("[fotos]\r\ncarpeta=C:\\TPV\\Fotos A\xF1o\r\n");
+  f.close();
+  QCOMPARE(ArchivoIni::Leer(ruta).valor(u"fotos"_s, u"carpeta"_s), u"C:\\TPV\\Fotos Año"_s);
 }
 
 void TestUtilidades::origenesDesdeIni() {
@@ -138,6 +144,8 @@ void TestUtilidades::origenesDesdeIni() {
       "[DSN lumbraFastFood]\ntipo=postgresql\npuerto=no\n"
       "[dsn porodbc]\ntipo=odbc\n"
       "[dsn raro]\ntipo=oracle\n"
+      "[dsn  Mi Base ]\ntipo=sqlite\narchivo=mi.db\n"
+      "[dsnx]\ntipo=sqlite\narchivo=x.db\n"
       "[dsn]\ntipo=sqlite\narchivo=x.db\n"
       "[ayuda]\ntipo=sqlite\narchivo=y.db\n"_s);
   const OrigenesDatos o = OrigenesDatos::DesdeIni(ini, base);
@@ -172,6 +180,11 @@ void TestUtilidades::origenesDesdeIni() {
   QVERIFY(!o.buscar(u"raro"_s));
   QVERIFY(!o.buscar(QString()));
   QVERIFY(!o.buscar(u"ayuda"_s));
+  QVERIFY(!o.buscar(u"x"_s));
+  QVERIFY(!o.buscar(u"dsnx"_s));
+  // A data-source name may hold blanks.
+  QVERIFY(o.buscar(u"mi base"_s));
+  QCOMPARE(o.buscar(u"Mi Base"_s)->archivo, QDir(base).filePath(u"mi.db"_s));
 }
 
 QTEST_GUILESS_MAIN(TestUtilidades)
