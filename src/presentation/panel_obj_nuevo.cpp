@@ -397,6 +397,11 @@ void PanelObjNuevo::set_usar_colores(bool usar) {
   pintarBotones();
 }
 
+void PanelObjNuevo::set_animacion(int animacion) {
+  animacion_ = animacion;
+  pintarBotones();
+}
+
 void PanelObjNuevo::set_fondo_principal(qint64 color) {
   fondoPrincipal_ = color;
   pintarAreas();

@@ -123,7 +123,7 @@ class PanelObjNuevo : public QWidget {
   void set_usar_colores(bool usar);
   // Non-zero: buttons sink when pressed and pages slide; 0: everything changes at once.
   int animacion() const { return animacion_; }
-  void set_animacion(int animacion) { animacion_ = animacion; }
+  void set_animacion(int animacion);
 
   qint64 fondo_principal() const { return fondoPrincipal_; }
   void set_fondo_principal(qint64 color);

@@ -44,6 +44,8 @@ QString ColorDeFila(const QVariant& color) {
 bool EsCero(const QVariant& valor) {
   if (valor.isNull())
     return false;
+  if (valor.typeId() == QMetaType::Bool)  // false is 0 to the till
+    return !valor.toBool();
   bool numero = false;
   const double v = TextoDe(valor).toDouble(&numero);
   return numero && v == 0;
