@@ -11,6 +11,8 @@
 #include <QRadioButton>
 #include <QStyleFactory>
 
+#include "colorear.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -103,15 +105,7 @@ void PonerLetra(QWidget* control, int puntos, bool negrita) {
 }
 
 void PintarFondo(QWidget* control, const QColor& color) {
-  if (!control || !color.isValid())
-    return;
-  QPalette p = control->palette();
-  if (qobject_cast<QPushButton*>(control)) {
-    p.setColor(QPalette::Button, color);
-  } else {
-    p.setColor(QPalette::Base, color);
-  }
-  control->setPalette(p);
+  if (control && color.isValid()) PonerColorFondo(control, color);
 }
 
 void DesmarcarOpcion(QRadioButton* opcion) {

@@ -51,7 +51,8 @@ QGroupBox* CrearMarco(QWidget* padre, const QString& nombre, const QString& titu
 
 // Sets a widget's type size in points, and bold when asked.
 void PonerLetra(QWidget* control, int puntos, bool negrita = false);
-// Paints the background of a field or button (the focus colour and the field colour).
+// Paints the background of a field or button as the colour scheme does (the focus colour and
+// the field colour); an invalid colour leaves it as it is.
 void PintarFondo(QWidget* control, const QColor& color);
 // Unsets an option button even when it is the only one set of its group.
 void DesmarcarOpcion(QRadioButton* opcion);

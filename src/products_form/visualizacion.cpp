@@ -10,6 +10,7 @@
 #include <QRadioButton>
 
 #include "color_vb.h"
+#include "colorear.h"
 #include "conexion.h"
 #include "disenio.h"
 #include "entorno.h"
@@ -99,10 +100,7 @@ void MostrarColor(QLabel* caja, const QString& valor) {
   QColor color = ColorDesdeTexto(valor);
   if (!color.isValid())
     color = ColorDesdeValor(kBlanco);
-  QPalette p = caja->palette();
-  p.setColor(QPalette::Window, color);
-  caja->setPalette(p);
-  caja->setAutoFillBackground(true);
+  PonerColorFondo(caja, color);
   caja->setProperty("color", valor);
 }
 
