@@ -31,6 +31,11 @@ double NumeroOCero(const QString& texto, const QString& columna) {
   return texto.isEmpty() ? 0.0 : Numero(texto, columna);
 }
 
+// An empty box is written as the empty text, never as a missing value.
+QString Texto(const QString& texto) {
+  return texto.isNull() ? u""_s : texto;
+}
+
 qint64 Entero(double valor) {
   return static_cast<qint64>(std::llround(valor));
 }
@@ -43,9 +48,9 @@ bool GuardaProductoEspecial(const QString& tipoPrograma) {
 void EscribirProducto(Recordset& rs, qint64 codigo, const ProductoFormulario& p,
                       const QString& tipoPrograma) {
   rs.setField(u"Codigo"_s, QString::number(codigo));
-  rs.setField(u"Nombre"_s, p.nombre);
-  rs.setField(u"Descripcion"_s, p.descripcion);
-  rs.setField(u"codigobarras"_s, p.codigoBarras.isEmpty() ? QString(u""_s) : p.codigoBarras);
+  rs.setField(u"Nombre"_s, Texto(p.nombre));
+  rs.setField(u"Descripcion"_s, Texto(p.descripcion));
+  rs.setField(u"codigobarras"_s, Texto(p.codigoBarras));
   rs.setField(u"Coste"_s, Numero(p.coste, u"Coste"_s));
   rs.setField(u"MargenComercial"_s, NumeroOCero(p.margen, u"MargenComercial"_s));
   rs.setField(u"Precio"_s, NumeroOCero(p.precio, u"Precio"_s));
@@ -58,7 +63,7 @@ void EscribirProducto(Recordset& rs, qint64 codigo, const ProductoFormulario& p,
   rs.setField(u"proveedor"_s, primero.right(kLargoCodigoProveedor).trimmed());
   rs.setField(u"Seccion"_s, u"-1"_s);
   rs.setField(u"Borrar"_s, 0);
-  rs.setField(u"unidadMedida"_s, p.unidadMedida);
+  rs.setField(u"unidadMedida"_s, Texto(p.unidadMedida));
   rs.setField(u"StockMinimo"_s, Numero(p.stockMinimo, u"StockMinimo"_s));
   rs.setField(u"MostrarEnCaja"_s, p.mostrarEnCaja ? 0 : -1);
   if (const std::optional<int> hechoen = ValorHechoEn(p.optCocina, p.optBarra)) {

@@ -25,8 +25,8 @@ QString LineaLista(const QString& nombre, const QString& codigo);
 QString CodigoDeLineaLista(const QString& linea);
 
 // The lines of the pop-up list of every live product, by name. With no product the notice
-// "No hay productos dados de alta." is shown and the result is empty (the list stays hidden);
-// a database failure is logged and the result is empty too.
+// "No hay productos dados de alta." is shown and there is no list to show; a database failure
+// is logged and there is none either.
 std::optional<QStringList> LeerListaProductos(Entorno& entorno);
 // The same for the products of one kind: "cocina" lists the kitchen and bar products of
 // internal use (tipoprod = 0), any other word the products for sale (tipoprod > 0).

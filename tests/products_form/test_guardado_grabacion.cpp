@@ -102,6 +102,9 @@ void TestGuardadoGrabacion::unProductoNuevoSeEscribeColumnaAColumna() {
   const QList<QVariantList> filas = prueba.filas(kColumnasProducto + u"where codigo = '10'"_s);
   QCOMPARE(filas.size(), 1);
   const QVariantList& f = filas.first();
+  // Every column is written: a missing value would read as 0 below.
+  for (int i = 0; i < f.size(); ++i)
+    QVERIFY2(!f.at(i).isNull(), qPrintable(QString::number(i)));
   QCOMPARE(f.at(0).toString(), u"10"_s);
   QCOMPARE(f.at(1).toString(), u"Caña"_s);
   QCOMPARE(f.at(2).toString(), u"Cerveza de barril"_s);
@@ -129,6 +132,7 @@ void TestGuardadoGrabacion::unProductoNuevoSeEscribeColumnaAColumna() {
   const QList<QVariantList> stock =
       prueba.filas(u"select Producto, Stock, StockMinimo, ConsumicionesDisponibles from stock"_s);
   QCOMPARE(stock, (QList<QVariantList>{{10, 24.0, 5.0, 0.0}}));
+  QVERIFY(!stock.first().last().isNull());
 
   // The links written for the unsaved code are replaced by the assigned list, at cost 0.
   const QList<QVariantList> enlaces =
@@ -144,6 +148,7 @@ void TestGuardadoGrabacion::sinFamiliaNiFotoNiLugarLasColumnasQuedanComoDebe() {
   p.foto.clear();
   p.color.clear();
   p.codigoBarras.clear();
+  p.descripcion.clear();
   p.optBarra = false;
   p.chkProdEspecial = true;  // an entry product: no place is written
   p.optAmbos = false;
@@ -159,8 +164,11 @@ void TestGuardadoGrabacion::sinFamiliaNiFotoNiLugarLasColumnasQuedanComoDebe() {
   QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::optional<qint64>(1));
 
   const QVariantList f = prueba.filas(kColumnasProducto).value(0);
-  QCOMPARE(f.at(3).toString(), u""_s);
-  QVERIFY(!f.at(3).isNull());  // the empty text, not a missing barcode
+  // Empty boxes are written as the empty text, not as missing values.
+  for (int columna : {2, 3}) {
+    QVERIFY(!f.at(columna).isNull());
+    QCOMPARE(f.at(columna).toString(), u""_s);
+  }
   QCOMPARE(f.at(4).toString(), u"-1"_s);
   QCOMPARE(f.at(6).toDouble(), 0.0);
   QCOMPARE(f.at(7).toDouble(), 0.0);
