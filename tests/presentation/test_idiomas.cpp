@@ -1,3 +1,4 @@
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QtTest>
 
@@ -224,6 +225,23 @@ class TestIdiomas : public QObject {
     QCOMPARE(rejilla->columnWidth(1), 150);
     QCOMPARE(rejilla->rowHeight(2), 53);
     QCOMPARE(f->findChild<QLabel*>(u"lbl_nombre"_s)->font().pointSizeF(), 15.0);
+  }
+
+  void losControlesDeUnaCapaLosColocaLaCapa() {
+    auto f = prueba::FormularioPrueba();
+    auto* suelto = prueba::Boton(f.get(), u"cmd_suelto"_s, u"Suelto"_s, {0, 700, 100, 40});
+    suelto->setMinimumSize(100, 40);
+    auto* panel = prueba::Crear<QWidget>(f.get(), u"pnlCapa"_s, {200, 700, 400, 60});
+    auto* capa = new QHBoxLayout(panel);
+    auto* enCapa = new QPushButton(u"En capa"_s, panel);
+    enCapa->setObjectName(u"cmd_enCapa"_s);
+    enCapa->setMinimumSize(100, 40);
+    capa->addWidget(enCapa);
+    ModificarTamano(f.get(), {1024, 768}, {1280, 1024});
+    QCOMPARE(suelto->minimumSize(), QSize(125, 53));
+    QCOMPARE(Geometria(f.get(), u"pnlCapa"_s), QRect(250, 933, 500, 80));
+    QCOMPARE(enCapa->minimumSize(), QSize(100, 40));
+    QCOMPARE(enCapa->font().pointSizeF(), 15.0);
   }
 
   void ajustaElFormularioAUnaPantallaMenor() {
