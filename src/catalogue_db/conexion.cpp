@@ -138,6 +138,14 @@ void Conexion::abrir(const QString& cadena, const OrigenesDatos& origenes) {
     despuesDeAbrir({});
     return;
   }
+  // Given "DSN=" and nothing else, Qt's ODBC driver and unixODBC open the SQLite ODBC driver on
+  // a new database file named "DSN=" in the working folder (measured). A string that names no
+  // data source and no driver is refused as the driver manager refuses an unknown name.
+  if (pares.value(u"dsn"_s).trimmed().isEmpty() && !pares.contains(u"driver"_s) &&
+      !pares.contains(u"filedsn"_s)) {
+    throw ErrorBD(
+        u"[unixODBC][Driver Manager]Data source name not found and no default driver specified"_s);
+  }
   bd_ = QSqlDatabase::addDatabase(u"QODBC"_s, nombre_);
   bd_.setDatabaseName(CadenaParaQtOdbc(cadena));
   if (!bd_.open())

@@ -34,6 +34,8 @@ class MotoresPrueba {
   // The file behind the "velandria" ODBC data source.
   QString archivoOdbc() const { return dir_.filePath(QStringLiteral("velandria_odbc.db")); }
   PostgresPrueba* postgres();
+  // Why the server could not start, when postgres() gave nothing.
+  QString errorPostgres() const { return postgres_ ? postgres_->error() : QString(); }
 
  private:
   // Defines "velandria" (SQLite) and, given a database, "lumbraCopas" (PostgreSQL) for ODBC.

@@ -1,3 +1,5 @@
+#include <QDir>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "error_bd.h"
@@ -96,6 +98,7 @@ class TestMotores : public QObject {
   void transacciones();
   void esquemaEnUnaTransaccion_data() { MotoresPrueba::agregarFilas(); }
   void esquemaEnUnaTransaccion();
+  void aperturaFallida();
 
  private:
   std::unique_ptr<MotoresPrueba> motores_;
@@ -298,6 +301,59 @@ void TestMotores::esquemaEnUnaTransaccion() {
   QVERIFY_THROWS_EXCEPTION(ErrorBD, CrearEsquema(c, tablas));  // listadostemporal exists
   QVERIFY_THROWS_EXCEPTION(ErrorBD, c.consultar(u"select codigo from productos"_s));
   QVERIFY(FilasDe(c, u"select tipoprograma from listadostemporal"_s).isEmpty());
+}
+
+// A data source that cannot be opened gives an error to log, and the connection stays closed.
+void TestMotores::aperturaFallida() {
+  const QString cerrada = u"La conexión con la base de datos no está abierta"_s;
+  OrigenesDatos origenes;
+  OrigenDatos archivo;
+  archivo.tipo = OrigenDatos::Tipo::SQLite;
+  archivo.archivo = u"/nonexistent/velandria.db"_s;
+  origenes.mapear(u"velandria"_s, archivo);
+  OrigenDatos servidor;
+  servidor.tipo = OrigenDatos::Tipo::PostgreSQL;
+  servidor.servidor = u"/nonexistent"_s;
+  servidor.baseDatos = u"copas"_s;
+  origenes.mapear(u"lumbraCopas"_s, servidor);
+
+  Conexion c;
+  try {
+    c.abrir(MotoresPrueba::cadena(), origenes);
+    QFAIL("a missing database file opened");
+  } catch (const ErrorBD& e) {
+    QCOMPARE(e.descripcion(),
+             u"No se encuentra el archivo de base de datos /nonexistent/velandria.db"_s);
+  }
+  QVERIFY(!c.abierta());
+  // The program type "Restaurante" gives an empty connection string: nothing opens, and no
+  // stray database file is made in the working folder.
+  QTemporaryDir carpeta;
+  const QString antes = QDir::currentPath();
+  QDir::setCurrent(carpeta.path());
+  for (const QString& vacia : {QString(), u"dsn=;pwd=x;"_s, u"pwd=KorvanitesX%QQRT;"_s}) {
+    try {
+      c.abrir(vacia, origenes);
+      QFAIL(qPrintable(u"opened: "_s + vacia));
+    } catch (const ErrorBD& e) {
+      QCOMPARE(e.descripcion(),
+               u"[unixODBC][Driver Manager]Data source name not found and no default driver "
+               "specified"_s);
+    }
+    QVERIFY(!c.abierta());
+  }
+  QDir::setCurrent(antes);
+  QVERIFY(QDir(carpeta.path()).isEmpty());
+  QVERIFY_THROWS_EXCEPTION(ErrorBD, c.abrir(u"dsn=lumbraCopas;pwd=x;"_s, origenes));
+  QVERIFY(!c.abierta());
+  try {
+    c.ejecutar(u"delete from stock"_s);
+    QFAIL("a closed connection ran a statement");
+  } catch (const ErrorBD& e) {
+    QCOMPARE(e.descripcion(), cerrada);
+  }
+  QVERIFY_THROWS_EXCEPTION(ErrorBD, Recordset(c, u"select * from stock"_s));
+  QVERIFY_THROWS_EXCEPTION(ErrorBD, Transaccion{c});
 }
 
 QTEST_GUILESS_MAIN(TestMotores)

@@ -26,7 +26,8 @@ class TestPostgres : public QObject {
 void TestPostgres::initTestCase() {
   motores_ = std::make_unique<MotoresPrueba>();
   PostgresPrueba* pg = motores_->postgres();
-  QVERIFY2(pg, "the PostgreSQL server could not be started");
+  QVERIFY2(pg, qPrintable(u"the PostgreSQL server could not be started: "_s +
+                          motores_->errorPostgres()));
 }
 
 void TestPostgres::conexionPorElMapeo() {
