@@ -101,7 +101,9 @@ void EscalarSecciones(QHeaderView* cabecera, double factor) {
 void TraducirFormulario(Entorno& entorno, QWidget* formulario) {
   const QList<QWidget*> controles = ControlesDe(formulario);
   for (QWidget* control : controles) {
-    if (!TieneCaption(control))
+    // A control without a caption (a picture, an untitled panel) has nothing to translate, and
+    // giving a picture's label a text would take its picture away.
+    if (!TieneCaption(control) || CaptionDe(control).isEmpty())
       continue;
     // The caption goes into the statement as it stands: the table's captions were gathered
     // from these same forms.

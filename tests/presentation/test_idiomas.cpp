@@ -81,8 +81,15 @@ class TestIdiomas : public QObject {
         u"insert into traducciones (caption, traduccion) values ('Mostrar en caja', "
         "'Show on till')"_s,
     });
+    inst->ejecutar({u"insert into traducciones (caption, traduccion) values ('', 'Vacío')"_s});
     auto f = prueba::FormularioPrueba();
+    QPixmap foto(40, 40);
+    foto.fill(Qt::red);
+    auto* imagen = prueba::Etiqueta(f.get(), u"pict_imagen"_s, QString(), {0, 0, 40, 40});
+    imagen->setPixmap(foto);
     TraducirFormulario(inst->entorno(), f.get());
+    QVERIFY(!imagen->pixmap().isNull());
+    QCOMPARE(Caption(f.get(), u"fr_Zoom2"_s), QString());
     QCOMPARE(Caption(f.get(), u"cmd_nuevo"_s), u"New"_s);
     // No translation: the table's own caption, as it is written there.
     QCOMPARE(Caption(f.get(), u"cmd_modificar"_s), u"MODIFICAR"_s);
@@ -95,7 +102,7 @@ class TestIdiomas : public QObject {
     // Check boxes are not among the translated kinds.
     QCOMPARE(f->findChild<QCheckBox*>(u"ch_Mostrar"_s)->text(), u"Mostrar en caja"_s);
     // Translating is not gathering.
-    QCOMPARE(inst->filas(u"select count(*) from traducciones"_s).at(0).at(0).toInt(), 8);
+    QCOMPARE(inst->filas(u"select count(*) from traducciones"_s).at(0).at(0).toInt(), 9);
     Guardar(f.get(), u"traducido.png"_s);
   }
 
