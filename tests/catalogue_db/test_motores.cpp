@@ -99,6 +99,8 @@ class TestMotores : public QObject {
   void esquemaEnUnaTransaccion_data() { MotoresPrueba::agregarFilas(); }
   void esquemaEnUnaTransaccion();
   void aperturaFallida();
+  void signosEnLosValores_data() { MotoresPrueba::agregarFilas(); }
+  void signosEnLosValores();
 
  private:
   std::unique_ptr<MotoresPrueba> motores_;
@@ -301,6 +303,29 @@ void TestMotores::esquemaEnUnaTransaccion() {
   QVERIFY_THROWS_EXCEPTION(ErrorBD, CrearEsquema(c, tablas));  // listadostemporal exists
   QVERIFY_THROWS_EXCEPTION(ErrorBD, c.consultar(u"select codigo from productos"_s));
   QVERIFY(FilasDe(c, u"select tipoprograma from listadostemporal"_s).isEmpty());
+}
+
+// Spliced values are only text, whatever signs they hold: placeholders of the drivers, comment
+// marks, a ';', letters outside ASCII.
+void TestMotores::signosEnLosValores() {
+  QFETCH(QString, motor);
+  Conexion c;
+  ABRIR_NUEVA(*motores_, c, motor);
+  const QStringList nombres = {u"¿Qué? :nombre"_s, u"$1 @p ?"_s,    u"a -- b /* c */"_s,
+                               u"x; y"_s,          u"Ñandú Caña"_s, u"C:\\fotos\\"_s};
+  int n = 0;
+  for (const QString& nombre : nombres) {
+    c.ejecutar(
+        u"insert into productos (codigo, nombre) values ('%1', '%2')"_s.arg(++n).arg(nombre));
+  }
+  n = 0;
+  for (const QString& nombre : nombres) {
+    Recordset rs(c,
+                 u"Select * from productos where nombre = '%1' and codigo <> '99'"_s.arg(nombre));
+    QCOMPARE(rs.recordCount(), 1);
+    QCOMPARE(rs.field(u"codigo"_s).toString(), QString::number(++n));
+    QCOMPARE(rs.field(u"nombre"_s).toString(), nombre);
+  }
 }
 
 // A data source that cannot be opened gives an error to log, and the connection stays closed.
