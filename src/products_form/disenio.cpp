@@ -1,5 +1,6 @@
 #include "disenio.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -105,10 +106,24 @@ void PonerLetra(QWidget* control, int puntos, bool negrita) {
 }
 
 void PintarFondo(QWidget* control, const QColor& color) {
-  if (control && color.isValid()) PonerColorFondo(control, color);
+  if (control && color.isValid())
+    PonerColorFondo(control, color);
+}
+
+void AgruparOpciones(std::initializer_list<QRadioButton*> opciones) {
+  auto* grupo = new QButtonGroup((*opciones.begin())->parentWidget());
+  for (QRadioButton* o : opciones)
+    grupo->addButton(o);
 }
 
 void DesmarcarOpcion(QRadioButton* opcion) {
+  if (QButtonGroup* grupo = opcion->group()) {
+    const bool exclusivo = grupo->exclusive();
+    grupo->setExclusive(false);
+    opcion->setChecked(false);
+    grupo->setExclusive(exclusivo);
+    return;
+  }
   const bool exclusiva = opcion->autoExclusive();
   opcion->setAutoExclusive(false);
   opcion->setChecked(false);

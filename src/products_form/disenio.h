@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QString>
+#include <initializer_list>
 
 class QCheckBox;
 class QColor;
@@ -54,6 +55,9 @@ void PonerLetra(QWidget* control, int puntos, bool negrita = false);
 // Paints the background of a field or button as the colour scheme does (the focus colour and
 // the field colour); an invalid colour leaves it as it is.
 void PintarFondo(QWidget* control, const QColor& color);
+// Makes option buttons one group of their own: setting one clears the others of the group
+// only, whatever else shares their frame.
+void AgruparOpciones(std::initializer_list<QRadioButton*> opciones);
 // Unsets an option button even when it is the only one set of its group.
 void DesmarcarOpcion(QRadioButton* opcion);
 // Gives the check and option buttons of a form marks as large as a fingertip can tell apart.

@@ -61,6 +61,7 @@ void CrearDatos(PantallaElaborados& p, QWidget* pantalla) {
   p.optCocinaElab =
       CrearOpcion(m, u"optCocinaElab"_s, u"Cocina"_s, QRect(kCampoX, Fila(3), 120, kAlto));
   p.optBarraElab = CrearOpcion(m, u"optBarraElab"_s, u"Barra"_s, QRect(268, Fila(3), 110, kAlto));
+  AgruparOpciones({p.optCocinaElab, p.optBarraElab});
   p.cmdImpresorasElab =
       CrearBoton(m, u"cmdImpresorasElab"_s, u"Impresora"_s, QRect(482, Fila(3), 210, kAlto));
 }

@@ -49,6 +49,7 @@ void CrearDatos(PantallaGenerico& p, QWidget* m) {
   p.opt_cocina = CrearOpcion(m, u"opt_cocina"_s, u"Producto de cocina/barra"_s,
                              QRect(332, Fila(4), 236, kAlto));
   p.opt_ambos = CrearOpcion(m, u"opt_ambos"_s, u"Ambos"_s, QRect(576, Fila(4), 116, kAlto));
+  AgruparOpciones({p.opt_Venta, p.opt_cocina, p.opt_ambos});
 }
 
 void CrearImportes(PantallaGenerico& p, QWidget* m) {
@@ -80,6 +81,7 @@ void CrearServicio(PantallaGenerico& p, QWidget* m) {
       CrearEtiqueta(m, u"lblPreparado"_s, u"Se prepara en"_s, QRect(8, Fila(8), 130, kAlto));
   p.optCocina = CrearOpcion(m, u"optCocina"_s, u"Cocina"_s, QRect(kCampoX, Fila(8), 120, kAlto));
   p.optBarra = CrearOpcion(m, u"optBarra"_s, u"Barra"_s, QRect(268, Fila(8), 110, kAlto));
+  AgruparOpciones({p.optCocina, p.optBarra});
   p.cmdImpresoras =
       CrearBoton(m, u"cmdImpresoras"_s, u"Impresora"_s, QRect(482, Fila(8), 210, kAlto));
 
