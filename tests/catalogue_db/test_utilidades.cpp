@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "archivo_ini.h"
+#include "conexion.h"
 #include "origenes_datos.h"
 #include "val.h"
 
@@ -18,6 +19,7 @@ class TestUtilidades : public QObject {
   void archivoIni();
   void archivoIniDeDisco();
   void origenesDesdeIni();
+  void conexionPorElIni();
 };
 
 void TestUtilidades::valJet_data() {
@@ -185,6 +187,26 @@ void TestUtilidades::origenesDesdeIni() {
   // A data-source name may hold blanks.
   QVERIFY(o.buscar(u"mi base"_s));
   QCOMPARE(o.buscar(u"Mi Base"_s)->archivo, QDir(base).filePath(u"mi.db"_s));
+}
+
+// The installation's file sends the suite's connection string to a SQLite file; the engine's
+// default path is that file without its extension.
+void TestUtilidades::conexionPorElIni() {
+  QTemporaryDir dir;
+  QVERIFY(QDir(dir.path()).mkpath(u"datos"_s));
+  const QString archivo = dir.filePath(u"datos/velandria.mdb"_s);
+  {
+    Conexion creadora;
+    creadora.abrirSQLite(archivo);
+    creadora.ejecutarDirecto(u"create table stock (producto integer)"_s);
+  }
+  const ArchivoIni ini =
+      ArchivoIni::DesdeTexto(u"[dsn velandria]\ntipo=sqlite\narchivo=datos\\velandria.mdb\n"_s);
+  Conexion c;
+  c.abrir(u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s, OrigenesDatos::DesdeIni(ini, dir.path()));
+  QCOMPARE(c.motor(), Motor::SQLite);
+  QCOMPARE(c.rutaPredeterminada(), dir.filePath(u"datos/velandria"_s));
+  QCOMPARE(c.ejecutar(u"insert into stock (producto) values (1)"_s), 1);
 }
 
 QTEST_GUILESS_MAIN(TestUtilidades)
