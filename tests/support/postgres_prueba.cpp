@@ -84,7 +84,9 @@ QString PostgresPrueba::clave() {
   return u"KorvanitesX%QQRT"_s;
 }
 
-PostgresPrueba::PostgresPrueba() {
+// Under /tmp whatever TMPDIR says: the postgres user must reach the folder, and a socket's path
+// must stay short (about a hundred bytes at most).
+PostgresPrueba::PostgresPrueba() : dir_(u"/tmp/productos-pg-XXXXXX"_s) {
   arrancado_ = arrancar();
 }
 
