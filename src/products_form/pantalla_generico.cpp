@@ -90,8 +90,8 @@ void CrearServicio(PantallaGenerico& p, QWidget* m) {
   p.ch_Mostrar = CrearCasilla(p.frMostrarCaja, u"ch_Mostrar"_s, u"Mostrar en Pantalla de Venta"_s,
                               QRect(4, 3, 296, kAlto));
   p.chkProdEspecial = CrearCasilla(m, u"chkProdEspecial"_s, u"Producto Entrada / Ropero"_s,
-                                   QRect(316, Fila(9), 240, kAlto));
-  p.Command1 = CrearBoton(m, u"Command1"_s, u"Subproductos"_s, QRect(560, Fila(9), 132, kAlto));
+                                   QRect(314, Fila(9), 254, kAlto));
+  p.Command1 = CrearBoton(m, u"Command1"_s, u"Subproductos"_s, QRect(570, Fila(9), 122, kAlto));
   p.frlogo1 = CrearMarco(m, u"frlogo1"_s, QString(), QRect(8, Fila(10) - 4, 684, 4));
 }
 

@@ -85,14 +85,18 @@ QString Stock(const QString& codigo, const QString& stock, const QString& minimo
       codigo, stock, minimo);
 }
 
-void UsarPantallaDeDiseno() {
+void UsarPantalla(int ancho, int alto) {
   if (!qEnvironmentVariable("QT_QPA_PLATFORM").startsWith(u"offscreen"_s))
     return;
-  const QString ruta = QDir::temp().filePath(u"productos-pantalla-1024x768.json"_s);
+  const QString ruta =
+      QDir::temp().filePath(u"productos-pantalla-%1x%2.json"_s.arg(ancho).arg(alto));
   QFile f(ruta);
   if (f.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-    f.write(R"({"screens": [{"name": "Diseno", "x": 0, "y": 0, "width": 1024, "height": 768,
-                "logicalDpiX": 96, "logicalDpiY": 96, "dpr": 1}]})");
+    f.write(
+        uR"({"screens": [{"name": "Prueba", "x": 0, "y": 0, "width": %1, "height": %2,
+                 "logicalDpiX": 96, "logicalDpiY": 96, "dpr": 1}]})"_s.arg(ancho)
+            .arg(alto)
+            .toUtf8());
     f.close();
     qputenv("QT_QPA_PLATFORM", (u"offscreen:configfile="_s + ruta).toLocal8Bit());
   }

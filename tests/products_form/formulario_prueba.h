@@ -48,15 +48,17 @@ QString Producto(const QString& codigo, const QString& nombre,
 // The insert of a product's stock row.
 QString Stock(const QString& codigo, const QString& stock, const QString& minimo);
 
-// The form's tests run on a 1024×768 offscreen screen, the size the form is designed for, so
-// that its geometry is the design's.
-void UsarPantallaDeDiseno();
+// Gives the offscreen platform a screen of that size (its own is 800×800).
+void UsarPantalla(int ancho, int alto);
 
-#define PRODUCTOS_TEST_MAIN(Clase)            \
-  int main(int argc, char** argv) {           \
-    UsarPantallaDeDiseno();                   \
-    QApplication app(argc, argv);             \
-    Clase prueba;                             \
-    QTEST_SET_MAIN_SOURCE_PATH                \
-    return QTest::qExec(&prueba, argc, argv); \
+// The form's tests run on a 1024×768 screen, the size the form is designed for, so that its
+// geometry is the design's; or on the screen given.
+#define PRODUCTOS_TEST_MAIN_PANTALLA(Clase, ancho, alto) \
+  int main(int argc, char** argv) {                      \
+    UsarPantalla(ancho, alto);                           \
+    QApplication app(argc, argv);                        \
+    Clase prueba;                                        \
+    QTEST_SET_MAIN_SOURCE_PATH                           \
+    return QTest::qExec(&prueba, argc, argv);            \
   }
+#define PRODUCTOS_TEST_MAIN(Clase) PRODUCTOS_TEST_MAIN_PANTALLA(Clase, 1024, 768)
