@@ -233,6 +233,8 @@ void Modos::ElegirTipo(int tipo) {
   if (tipo == 2 && cargarListasElaborados)
     cargarListasElaborados();
   modonavegacion();
+  if (tipo == 1)
+    RestaurarPantallaGenerico();
   if (estado_.hayProductos())
     visualizacion_.bt_botones(0);
 }
@@ -282,6 +284,24 @@ void Modos::OcultarNuevoGen() {
   PonerVisible({g.ch_Mostrar, g.lblPreparado, g.optCocina, g.optBarra}, false);
 }
 
+void Modos::RestaurarPantallaGenerico() {
+  PantallaGenerico& g = c_.gen;
+  g.frOcultarGen->hide();
+  PonerVisible(
+      {g.lbl_Medida,       g.cbo_Medida,  g.lbl_MedidaAyuda,  g.Label6,     g.opt_Venta,
+       g.opt_cocina,       g.opt_ambos,   g.lbl_coste,        g.txt_coste,  g.lbl_iva,
+       g.txt_iva,          g.lbl_percent, g.lbl_precio,       g.txt_precio, g.lbl_stock_minimo,
+       g.txt_stock_minimo, g.Label16,     g.txt_stock_actual, g.ch_Mostrar, g.lblPreparado,
+       g.optCocina,        g.optBarra},
+      true);
+  g.frMostrarCaja->setVisible(!g.chkProdEspecial->isChecked());
+  if (g.ch_Mostrar->isChecked()) {
+    eventos_.MostrarImagenColor();
+  } else {
+    eventos_.ocultarImagenColor();
+  }
+}
+
 void Modos::cmd_nuevo() {
   try {
     if (!bHayProveedores()) {
@@ -318,6 +338,8 @@ void Modos::cmd_cancelar() {
       entorno_.ConexionBD->ejecutar(u"Delete from productoproveedor where producto = '"_s +
                                     QString::number(estado_.codigoActual) +
                                     u"' and producto not in (Select codigo from productos)"_s);
+      if (estado_.tipo == 1)
+        RestaurarPantallaGenerico();
       visualizacion_.MostrarActual();
     }
   } catch (const ErrorBD& e) {

@@ -33,6 +33,10 @@ class Modos : public QObject {
   // The start screen's choice of a kind: its screen, its products and navigation mode.
   void ElegirTipo(int tipo);
   void OcultarNuevoGen();
+  // Shows again what a new simple product hid until its steps reached it, so that the screen
+  // shows a whole product once more: the unit, the kinds, the amounts and stock, where it is
+  // prepared, and the till's button when the product is shown on the till.
+  void RestaurarPantallaGenerico();
   bool bHayProveedores();
 
   void cmd_nuevo();

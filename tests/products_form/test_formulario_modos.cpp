@@ -287,6 +287,13 @@ void TestFormularioModos::cancelarQuitaSoloLosEnlacesDelProductoSinGuardar() {
            (QList<QVariantList>{{u"1"_s, u"P1"_s, 0.0}}));
   QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Caña"_s);
   QCOMPARE(f.forma().estado().codigoActual, 1);
+  // What the new product hid is on show again for the saved one.
+  QVERIFY(!Visible(f, u"frOcultarGen"_s));
+  for (const QString& visible : {u"txt_coste"_s, u"txt_precio"_s, u"txt_stock_minimo"_s,
+                                 u"cbo_Medida"_s, u"lbl_Medida"_s, u"Label6"_s, u"opt_ambos"_s,
+                                 u"ch_Mostrar"_s, u"optCocina"_s, u"pict_imagen"_s, u"lblPos"_s}) {
+    QVERIFY2(Visible(f, visible), qPrintable(visible));
+  }
   QVERIFY(!Activo(f, u"cmd_aceptar"_s));
   QVERIFY(f.inst().erroresMostrados().isEmpty());
 }
