@@ -14,7 +14,7 @@ const QString kEstilo =
 body { font-family: "DejaVu Sans", Verdana, Arial, sans-serif; font-size: 19px; line-height: 1.55;
        color: #1d2733; background: #f7f9fb; margin: 0; }
 main { max-width: 56em; margin: 0 auto; padding: 1.2em 1.6em 3em; background: #ffffff; }
-nav { background: #2e6da4; padding: 0.7em 1.6em; }
+nav { background: #2e6da4; color: #ffffff; padding: 0.7em 1.6em; }
 nav a { color: #ffffff; margin-right: 1.4em; font-weight: bold; text-decoration: none; }
 nav a:hover { text-decoration: underline; }
 h1 { color: #2e6da4; font-size: 1.7em; margin-top: 0.4em; }
@@ -35,9 +35,9 @@ QString Pagina(const QString& titulo, const QString& cuerpo) {
          "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>"_s +
          titulo + u"</title>\n<style>"_s + kEstilo +
          u"</style>\n</head>\n<body>\n<nav>"
-         "<a href=\"A_Productos.html\">Productos</a>"
-         "<a href=\"A_ProductosElaborados.html\">Productos elaborados</a>"
-         "<a href=\"A_Buscar.html\">Buscar</a>"
+         "<a href=\"A_Productos.html\">Productos</a> · "
+         "<a href=\"A_ProductosElaborados.html\">Productos elaborados</a> · "
+         "<a href=\"A_Buscar.html\">Buscar</a> · "
          "<a href=\"A_SubProductos.html\">Sub-productos</a></nav>\n<main>\n<h1>"_s +
          titulo + u"</h1>\n"_s + cuerpo + u"\n</main>\n</body>\n</html>\n"_s;
 }
