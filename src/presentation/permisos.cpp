@@ -37,8 +37,10 @@ void AplicarRestricciones(Conexion& conexion, QWidget* formulario, qint32 emplea
   };
   if (rs.recordCount() > 0) {
     while (!rs.eof()) {
-      if (QWidget* boton = buscar(rs.field(u"boton"_s).toString()))
+      if (QWidget* boton = buscar(rs.field(u"boton"_s).toString())) {
         boton->setEnabled(false);
+        boton->setProperty("restringido", true);
+      }
       const QVariant auxiliar = rs.field(u"boton_auxiliar"_s);
       if (!auxiliar.isNull() && !auxiliar.toString().isEmpty()) {
         if (QWidget* control = buscar(auxiliar.toString()))
@@ -52,6 +54,14 @@ void AplicarRestricciones(Conexion& conexion, QWidget* formulario, qint32 emplea
     throw ErrorBD(u"El formulario %1 no tiene el control %2"_s.arg(formulario->objectName(),
                                                                    sinControl.join(u", "_s)));
   }
+}
+
+bool EstaRestringido(const QWidget* control) {
+  return control->property("restringido").toBool();
+}
+
+void Habilitar(QWidget* control, bool activo) {
+  control->setEnabled(activo && !EstaRestringido(control));
 }
 
 qint32 SiguienteCodigoAtributo(Conexion& conexion) {

@@ -14,6 +14,10 @@ class QWidget;
 // throws ErrorBD naming it (the data are expected to match the form), so that the caller logs
 // it without leaving any other restricted button usable.
 void AplicarRestricciones(Conexion& conexion, QWidget* formulario, qint32 empleado);
+// A button restricted for the employee stays off for the whole opening of the form: the form's
+// modes switch their buttons on and off, but never switch on a restricted one.
+bool EstaRestringido(const QWidget* control);
+void Habilitar(QWidget* control, bool activo);
 // Registers in "atributos" every captioned command button of the form that is not registered
 // yet and is not always allowed, with consecutive codes in the order of the form's controls.
 void GenerarAtributos(Conexion& conexion, QWidget* formulario);

@@ -18,6 +18,7 @@
 #include "estado_formulario.h"
 #include "eventos_campos.h"
 #include "importes.h"
+#include "permisos.h"
 #include "principal.h"
 #include "recordset.h"
 #include "visualizacion.h"
@@ -50,7 +51,7 @@ class BloqueoListas : public QObject {
 
 void PonerActivo(std::initializer_list<QWidget*> controles, bool activo) {
   for (QWidget* c : controles)
-    c->setEnabled(activo);
+    Habilitar(c, activo);
 }
 
 void PonerVisible(std::initializer_list<QWidget*> controles, bool visible) {
@@ -127,18 +128,18 @@ void Modos::navegacionGenerico() {
   const EstadoFormulario::Permisos& p = estado_.permisos;
   BloquearCampos(true);
   PonerActivo({g.cmd_aceptar, g.cmd_cancelar}, false);
-  g.cmd_buscar->setEnabled(true);
+  Habilitar(g.cmd_buscar, true);
   if (p.nuevo)
-    g.cmd_nuevo->setEnabled(true);
+    Habilitar(g.cmd_nuevo, true);
   if (p.eliminar)
-    g.cmd_eliminar->setEnabled(true);
+    Habilitar(g.cmd_eliminar, true);
   if (p.modificar)
-    g.cmd_modificar->setEnabled(true);
+    Habilitar(g.cmd_modificar, true);
   PonerActivo({g.cmd_ayuda, g.cmd_salir}, true);
   g.frFlechasGen->show();
   PonerVisible({g.fr_MensajeNombre, g.fr_Mensajenumero}, false);
   PonerActivo({g.bt_botonSig, g.bt_botonAnt, g.cmd_Proveedor}, false);
-  g.cmd_ListaProd->setEnabled(true);
+  Habilitar(g.cmd_ListaProd, true);
   PonerVisible({g.Label6, g.opt_Venta, g.opt_cocina, g.opt_ambos}, true);
   g.cmd_nuevo->setFocus();
 }
@@ -148,11 +149,11 @@ void Modos::navegacionElaborados() {
   const EstadoFormulario::Permisos& p = estado_.permisos;
   BloquearCampos(true);
   if (p.nuevo)
-    e.cmd_NuevoProdEla->setEnabled(true);
+    Habilitar(e.cmd_NuevoProdEla, true);
   if (p.modificar)
-    e.cmd_ModificarProdEla->setEnabled(true);
+    Habilitar(e.cmd_ModificarProdEla, true);
   if (p.eliminar)
-    e.cmd_EliminarProdEla->setEnabled(true);
+    Habilitar(e.cmd_EliminarProdEla, true);
   PonerActivo({e.Boton_SM2, e.cmd_SalirProdEla, e.cmd_AyudaProdEla}, true);
   PonerActivo({e.cmd_AceptarProdEl, e.cmd_CancelarProdEl}, false);
   e.lblProdASel->setText(u"Productos elaborados"_s);
@@ -187,7 +188,7 @@ void Modos::cambiosGenerico() {
     g.cmd_eliminar->setEnabled(false);
   PonerActivo({g.cmd_buscar, g.cmd_ayuda, g.cmd_salir, g.cmd_ListaProd}, false);
   g.frFlechasGen->hide();
-  g.cmd_Proveedor->setEnabled(true);
+  Habilitar(g.cmd_Proveedor, true);
   PonerActivo(
       {g.pict_imagen, g.lbl_Insertar, g.pic_ColorPG, g.lbl_color, g.bt_botonSig, g.bt_botonAnt},
       true);

@@ -48,6 +48,7 @@ class TestFormularioModos : public QObject {
   void modosDeLosProductosSimples();
   void modosDeLosElaborados();
   void unBotonSinPermisoNoSeEnciende();
+  void unBotonRestringidoAlEmpleadoSigueApagado();
   void nuevoSinProveedoresAvisaYNoCambiaDeModo();
   void nuevoLimpiaLosCamposYOcultaLoQueAunNoToca();
   void cancelarQuitaSoloLosEnlacesDelProductoSinGuardar();
@@ -188,6 +189,25 @@ void TestFormularioModos::unBotonSinPermisoNoSeEnciende() {
   QVERIFY(!Activo(f, u"cmd_NuevoProdEla"_s));
   QVERIFY(!Activo(f, u"cmd_EliminarProdEla"_s));
   QVERIFY(Activo(f, u"cmd_ModificarProdEla"_s));
+}
+
+void TestFormularioModos::unBotonRestringidoAlEmpleadoSigueApagado() {
+  FormularioPrueba f(
+      {kProveedor, Producto(u"1"_s, u"Caña"_s), Stock(u"1"_s, u"5"_s, u"1"_s),
+       u"insert into atributos (codigo, form, form_desc, boton, boton_desc, boton_auxiliar) "
+       "values (1, 'frmProductos1024', 'Productos', 'cmd_eliminar', 'Eliminar', null)"_s,
+       u"insert into empleadosatributos (codEmpleado, codatributo) values (5, 1)"_s});
+  QVERIFY(f.mostrar());
+  QCOMPARE(f.entorno().sesion.EmpleadoActual, 5);
+  QVERIFY(!Activo(f, u"cmd_eliminar"_s));
+  // Neither choosing the screen nor leaving change mode gives the employee the button back.
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  QVERIFY(!Activo(f, u"cmd_eliminar"_s));
+  QVERIFY(Activo(f, u"cmd_nuevo"_s));
+  Pulsar(f, u"cmd_modificar"_s);
+  Pulsar(f, u"cmd_cancelar"_s);
+  QVERIFY(!Activo(f, u"cmd_eliminar"_s));
+  QVERIFY(Activo(f, u"cmd_modificar"_s));
 }
 
 void TestFormularioModos::nuevoSinProveedoresAvisaYNoCambiaDeModo() {
