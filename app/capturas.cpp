@@ -16,7 +16,8 @@ struct Paso {
 };
 
 void Pulsar(QWidget* formulario, const QString& nombre) {
-  if (auto* b = formulario->findChild<QAbstractButton*>(nombre); b && b->isEnabled()) b->click();
+  if (auto* b = formulario->findChild<QAbstractButton*>(nombre); b && b->isEnabled())
+    b->click();
   QApplication::processEvents();
 }
 
@@ -37,11 +38,14 @@ int GuardarCapturas(QWidget* formulario, const QString& carpeta) {
   QDir().mkpath(carpeta);
   int escritas = 0;
   for (const Paso& paso : pasos) {
-    if (!paso.boton.isEmpty()) Pulsar(formulario, paso.boton);
-    if (paso.archivo.isEmpty()) continue;
+    if (!paso.boton.isEmpty())
+      Pulsar(formulario, paso.boton);
+    if (paso.archivo.isEmpty())
+      continue;
     QWidget* ventana = QApplication::activeModalWidget() ? QApplication::activeModalWidget()
-                                                          : formulario->window();
-    if (ventana->grab().save(QDir(carpeta).filePath(paso.archivo))) ++escritas;
+                                                         : formulario->window();
+    if (ventana->grab().save(QDir(carpeta).filePath(paso.archivo)))
+      ++escritas;
   }
   return escritas;
 }
