@@ -17,6 +17,11 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 capturas="$demo/capturas"
 mkdir -p "$capturas"
-QT_QPA_PLATFORM=offscreen PRODUCTOS_CAPTURAS="$capturas" "$carpeta/app/productos"
+# A screen of the size the forms are designed for.
+pantalla="$capturas/pantalla-1024x768.json"
+echo '{"screens": [{"name": "Pantalla", "x": 0, "y": 0, "width": 1024, "height": 768,
+  "logicalDpiX": 96, "logicalDpiY": 96, "dpr": 1}]}' > "$pantalla"
+QT_QPA_PLATFORM="offscreen:configfile=$pantalla" PRODUCTOS_CAPTURAS="$capturas" \
+  "$carpeta/app/productos"
 echo "No hay pantalla: las capturas de las pantallas del programa están en $capturas"
 ls -1 "$capturas"
