@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "alta_producto.h"
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
@@ -17,6 +18,7 @@
 #include "pantalla_generico.h"
 #include "pantalla_inicial.h"
 #include "pantalla_teclado.h"
+#include "panel_proveedores.h"
 #include "precios.h"
 #include "teclado.h"
 #include "visualizacion.h"
@@ -69,6 +71,10 @@ void FrmProductos1024::conectar() {
   for (QPushButton* precios : {controles_.inicial.Boton_SM1, controles_.elab.Boton_SM2}) {
     connect(precios, &QPushButton::clicked, this, [this] { Boton_SM1(entorno_); });
   }
+  auto* alta = new AltaProducto(entorno_, estado_, controles_, *modos_, *visualizacion_, this);
+  alta->conectar();
+  auto* proveedores = new PanelProveedores(entorno_, estado_, controles_, *visualizacion_, this);
+  proveedores->conectar();
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {

@@ -249,7 +249,8 @@ void TestFormularioModos::nuevoLimpiaLosCamposYOcultaLoQueAunNoToca() {
   const QList<QPair<QString, QString>> textos = {{u"txt_nombre"_s, u""_s},
                                                  {u"txtCodBarras"_s, u""_s},
                                                  {u"txt_descripcion"_s, u""_s},
-                                                 {u"txtDescNumericaPGen"_s, u""_s},
+                                                 // Offered at once: no product has one.
+                                                 {u"txtDescNumericaPGen"_s, u"1"_s},
                                                  {u"txt_coste"_s, u"0"_s},
                                                  {u"txt_iva"_s, u"0"_s},
                                                  {u"txt_precio"_s, u"0"_s},
