@@ -11,17 +11,21 @@
 #include "entorno.h"
 #include "eventos_campos.h"
 #include "filtro_teclas.h"
+#include "imagen_color.h"
 #include "importes.h"
+#include "lista_productos_form.h"
 #include "marcos_auxiliares.h"
 #include "modos.h"
 #include "pantalla_elaborados.h"
 #include "pantalla_generico.h"
 #include "pantalla_inicial.h"
 #include "pantalla_teclado.h"
+#include "panel_familias.h"
 #include "panel_proveedores.h"
 #include "precios.h"
 #include "teclado.h"
 #include "visualizacion.h"
+#include "zona_impresoras.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -75,6 +79,14 @@ void FrmProductos1024::conectar() {
   alta->conectar();
   auto* proveedores = new PanelProveedores(entorno_, estado_, controles_, *visualizacion_, this);
   proveedores->conectar();
+  auto* zona = new ZonaImpresoras(entorno_, estado_, controles_, this);
+  zona->conectar();
+  auto* imagenColor = new ImagenColor(entorno_, estado_, controles_, this);
+  imagenColor->conectar();
+  auto* familias = new PanelFamilias(controles_, this);
+  familias->conectar();
+  auto* lista = new ListaProductosForm(entorno_, controles_, *visualizacion_, this);
+  lista->conectar();
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {
