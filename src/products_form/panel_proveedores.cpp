@@ -23,7 +23,7 @@ namespace {
 void AnadirLinea(QListWidget* lista, const QString& linea) {
   auto* item = new QListWidgetItem(linea, lista);
   const int alto = std::max(disenio::kAltoToque, QFontMetrics(lista->font()).height() + 20);
-  item->setSizeHint(QSize(lista->viewport()->width(), alto));
+  item->setSizeHint(QSize(0, alto));
 }
 
 void Llenar(QListWidget* lista, const QStringList& lineas) {
@@ -52,6 +52,9 @@ PanelProveedores::PanelProveedores(Entorno& entorno, EstadoFormulario& estado,
 
 void PanelProveedores::conectar() {
   MarcosAuxiliares& m = c_.marcos;
+  // Shaded in turns, each line shows how far a touch on it reaches.
+  for (QListWidget* lista : {m.lb_Proveedores, m.lb_ProveedoresAsignados})
+    lista->setAlternatingRowColors(true);
   connect(c_.gen.cmd_Proveedor, &QPushButton::clicked, this, &PanelProveedores::cmd_Proveedor);
   connect(m.lb_Proveedores, &QListWidget::itemClicked, this, [this](QListWidgetItem* linea) {
     mover(c_.marcos.lb_Proveedores, linea, c_.marcos.lb_ProveedoresAsignados);
@@ -73,6 +76,9 @@ void PanelProveedores::cmd_Proveedor() {
   MarcosAuxiliares& m = c_.marcos;
   m.lblProducto->setText(c_.gen.txt_nombre->text());
   CargarListasProveedores(estado_.codigoActual);
+  // The panel is a step of its own: the screen under it waits until it is accepted or
+  // cancelled, so that its "Aceptar" is not taken for the product's.
+  c_.gen.fr_ProductoGenerico->setEnabled(false);
   MostrarMarco(m.frProveedores);
 }
 
@@ -102,7 +108,7 @@ void PanelProveedores::cmd_AceptarProveedor() {
   QPushButton* boton = c_.gen.cmd_Proveedor;
   boton->setText(CaptionTrasAceptarProveedores(asignados(), boton->text()));
   GuardarProveedores();
-  c_.marcos.frProveedores->hide();
+  cerrar();
   mostrarMedida();
 }
 
@@ -117,8 +123,13 @@ void PanelProveedores::mostrarMedida() {
                               g.frlogo1->y() - arriba);
 }
 
-void PanelProveedores::cmd_CancelarProveedor() {
+void PanelProveedores::cerrar() {
   c_.marcos.frProveedores->hide();
+  c_.gen.fr_ProductoGenerico->setEnabled(true);
+}
+
+void PanelProveedores::cmd_CancelarProveedor() {
+  cerrar();
   // What was moved and not accepted is dropped: the lists are the product's links again, the
   // ones that saving the product writes.
   CargarListasProveedores(estado_.codigoActual);

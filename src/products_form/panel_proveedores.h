@@ -38,6 +38,7 @@ class PanelProveedores : public QObject {
  private:
   void mover(QListWidget* desde, QListWidgetItem* linea, QListWidget* hacia);
   void mostrarMedida();
+  void cerrar();
 
   Entorno& entorno_;
   EstadoFormulario& estado_;
