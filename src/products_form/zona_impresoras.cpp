@@ -13,6 +13,7 @@
 #include "entorno.h"
 #include "estado_formulario.h"
 #include "impresoras_producto.h"
+#include "lista_productos_form.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,6 +59,7 @@ void ZonaImpresoras::conectar() {
   MarcosAuxiliares& m = c_.marcos;
   // The chooser lies hidden until it is opened, and leaves with the screen that opened it.
   m.frImpresoras->hide();
+  HacerListaTactil(m.lb_impresoras);
   g.fr_ProductoGenerico->installEventFilter(this);
   e.fr_ProductosElaborados->installEventFilter(this);
   // The kinds act when they become set, whether the manager or the record display sets them, as

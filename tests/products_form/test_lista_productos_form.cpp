@@ -66,6 +66,9 @@ void TestListaProductosForm::laListaSeAbreYSeCierraConSuBoton() {
   // Every live product by name, its code pushed out of sight.
   QCOMPARE(Lineas(f), (QStringList{Linea(u"Agua"_s, u"12"_s), Linea(u"Caña"_s, u"4"_s),
                                    Linea(u"Vino"_s, u"7"_s)}));
+  // Each line is a fingertip high.
+  auto* lista = f.control<QListWidget>(u"lstProductos"_s);
+  QVERIFY(lista->visualItemRect(lista->item(0)).height() >= 44);
   Pulsar(f, u"cmd_ListaProd"_s);
   QVERIFY(!ListaVisible(f));
   Pulsar(f, u"cmd_ListaProd"_s);

@@ -74,6 +74,7 @@ class TestPanelFamilias : public QObject {
   void unaFamiliaTocadaEnModoCambiosPasaALaEtiqueta();
   void enNavegacionTocarUnaFamiliaNoCambiaNada();
   void elPanelDeLosElaborados();
+  void seisFamiliasPorPaginaDelTamanoDeUnDedo();
 };
 
 void TestPanelFamilias::unaFamiliaTocadaEnModoCambiosPasaALaEtiqueta() {
@@ -130,6 +131,28 @@ void TestPanelFamilias::elPanelDeLosElaborados() {
   QCOMPARE(Caption(f, u"lblNomFamilia_elab"_s), u"Cervezas"_s);
   QCOMPARE(Codigo(f, u"lblNomFamilia_elab"_s), u"F1"_s);
   QCOMPARE(Codigo(f, u"lblnomFamilia"_s), u"-1"_s);
+}
+
+void TestPanelFamilias::seisFamiliasPorPaginaDelTamanoDeUnDedo() {
+  QStringList filas = {
+      u"insert into proveedores (codigo, nombre, borrar) values ('P1', "
+      "'Distribuciones Sur', 0)"_s};
+  for (int i = 1; i <= 8; ++i)
+    filas.append(Familia(u"F%1"_s.arg(i), u"Familia %1"_s.arg(i), i));
+  FormularioPrueba f(filas);
+  QVERIFY(f.mostrar());
+  for (const QString& nombre : {u"PanelFamilias"_s, u"PanelFamilias_Elab"_s}) {
+    auto* panel = f.control<PanelObjNuevo>(nombre);
+    QCOMPARE(panel->botonesPorPagina(), 6);
+    QCOMPARE(panel->paginas(), 2);
+    auto* boton = panel->findChild<QAbstractButton*>(u"boton_6"_s);
+    QVERIFY(boton);
+    QVERIFY2(boton->width() >= 88 && boton->height() >= 60, qPrintable(nombre));
+  }
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  Pulsar(f, u"cmd_nuevo"_s);
+  TocarFamilia(f, u"PanelFamilias"_s, u"Familia 8"_s);
+  QCOMPARE(Codigo(f, u"lblnomFamilia"_s), u"F8"_s);
 }
 
 PRODUCTOS_TEST_MAIN(TestPanelFamilias)
