@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -40,10 +41,43 @@ AltaProducto::AltaProducto(Entorno& entorno, EstadoFormulario& estado,
       modos_(modos),
       visualizacion_(visualizacion) {}
 
+namespace {
+
+// Each hint with the box that it is about.
+QList<std::pair<QGroupBox*, QLineEdit*>> Avisos(const ControlesFormulario& c) {
+  return {{c.gen.fr_MensajeNombre, c.gen.txt_nombre},
+          {c.gen.fr_Mensajenumero, c.gen.txtDescNumericaPGen},
+          {c.elab.fr_mensajeNombrePElab, c.elab.txt_NombreElaborado},
+          {c.elab.fr_mensajeNumeroPElab, c.elab.txtDescNumerica}};
+}
+
+}  // namespace
+
 void AltaProducto::conectar() {
   connect(c_.gen.cmd_aceptar, &QPushButton::clicked, this, &AltaProducto::cmd_aceptar);
   connect(c_.gen.cmd_eliminar, &QPushButton::clicked, this, &AltaProducto::cmd_eliminar);
   modos_.PonerOrden = [this] { PonerOrden(estado_.tipo); };
+  for (const auto& [aviso, campo] : Avisos(c_)) {
+    // Framed all round, a hint reads apart from the fields that it lies over.
+    aviso->setFlat(false);
+    aviso->installEventFilter(this);
+    const QList<QWidget*> dentro = aviso->findChildren<QWidget*>();
+    for (QWidget* w : dentro)
+      w->installEventFilter(this);
+    connect(campo, &QLineEdit::textEdited, aviso, &QWidget::hide);
+  }
+}
+
+bool AltaProducto::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() == QEvent::MouseButtonRelease) {
+    for (const auto& [aviso, campo] : Avisos(c_)) {
+      if (objeto == aviso || aviso->isAncestorOf(qobject_cast<QWidget*>(objeto))) {
+        aviso->hide();
+        return true;
+      }
+    }
+  }
+  return QObject::eventFilter(objeto, evento);
 }
 
 void AltaProducto::PonerOrden(int tipo) {
@@ -52,6 +86,9 @@ void AltaProducto::PonerOrden(int tipo) {
   QLabel* posicion = tipo == 2 ? c_.elab.lblpospelab : c_.gen.lblPos;
   if (const std::optional<QString> valor = ValorPonerOrden(entorno_))
     posicion->setText(*valor);
+  // Nothing is taken yet: the hint tells of the number offered.
+  (tipo == 2 ? c_.elab.lblDescNumPElab : c_.gen.lblMensajeNumero)
+      ->setText(kAvisoDescNumericaPropuesta);
   mensajenumero(tipo);
 }
 
@@ -178,6 +215,7 @@ void AltaProducto::cmd_aceptar() {
   PantallaGenerico& g = c_.gen;
   g.fr_MensajeNombre->hide();
   g.fr_Mensajenumero->hide();
+  c_.marcos.fr_Mensaje->hide();
   if (bcomprobarSiExisteNombre(entorno_, g.txt_nombre->text(), estado_.codigoActual)) {
     mensajenombre(1);
     return;
@@ -202,7 +240,6 @@ void AltaProducto::cmd_aceptar() {
   // A save that failed is logged and leaves the product on the screen, still to be saved.
   if (!grabar())
     return;
-  c_.marcos.fr_Mensaje->hide();
   mostrarGrabado();
 }
 

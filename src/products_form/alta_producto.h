@@ -14,6 +14,10 @@ class Visualizacion;
 struct Entorno;
 struct EstadoFormulario;
 
+// What the numeric description's hint says when a new product is offered the next free number.
+inline const QString kAvisoDescNumericaPropuesta =
+    QStringLiteral("Se propone la siguiente descripción numérica libre; puede cambiarla.");
+
 // Moves a recordset of products to the row whose code is the given one, starting from the
 // first row. False, and the recordset at its first row, when no row has it.
 bool MoverACodigo(Recordset& productos, const QString& codigo);
@@ -27,7 +31,8 @@ class AltaProducto : public QObject {
                Modos& modos, Visualizacion& visualizacion, QObject* padre = nullptr);
 
   // Wires "Aceptar" and "Eliminar" of the simple products' screen and the offer that "Nuevo"
-  // makes to a new product.
+  // makes to a new product. A hint goes away when touched, or when the manager types in the
+  // box that it is about: it has been read, and it must not keep covering the screen.
   void conectar();
 
   // The screen position offered to a new product of a kind (1 simple, 2 elaborated), then its
@@ -48,6 +53,9 @@ class AltaProducto : public QObject {
   // Set by the colour chooser: opens the colour choice of the product being edited. A shown
   // product cannot be saved without a colour, so the accept opens the choice for it.
   std::function<void()> mostrarColores;
+
+ protected:
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:
   bool comprobarCampos();

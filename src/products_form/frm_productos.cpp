@@ -87,6 +87,8 @@ void FrmProductos1024::conectar() {
   familias->conectar();
   auto* lista = new ListaProductosForm(entorno_, controles_, *visualizacion_, this);
   lista->conectar();
+  // A shown product needs its colour: the accept opens the colour choice for it.
+  alta->mostrarColores = [imagenColor] { imagenColor->mostrarColores(); };
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {
