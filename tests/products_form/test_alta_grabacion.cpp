@@ -87,6 +87,7 @@ class TestAltaGrabacion : public QObject {
   void unGerenteDaDeAltaUnProductoSimple();
   void modificarReescribeElProductoSuStockYSusProveedores();
   void eliminarPreguntaYSoloConSiMarcaElProducto();
+  void unFalloAlGrabarDejaElProductoEnPantallaSinTocarNada();
 };
 
 void TestAltaGrabacion::unGerenteDaDeAltaUnProductoSimple() {
@@ -309,6 +310,29 @@ void TestAltaGrabacion::eliminarPreguntaYSoloConSiMarcaElProducto() {
   Pulsar(f, u"bt_botones_3"_s);
   QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Zumo"_s);
   QVERIFY(f.inst().erroresMostrados().isEmpty());
+}
+
+void TestAltaGrabacion::unFalloAlGrabarDejaElProductoEnPantallaSinTocarNada() {
+  FormularioPrueba f(ConTinto());
+  QVERIFY(f.mostrar());
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  Pulsar(f, u"bt_botones_2"_s);
+  const QList<QVariantList> antes = f.inst().filas(kColumnasProducto + u"where codigo = '5'"_s);
+  const QList<QVariantList> enlaces = f.inst().filas(kEnlaces);
+  Pulsar(f, u"cmd_modificar"_s);
+  Escribir(f, u"txt_nombre"_s, u"Tinto de verano"_s);
+  // The stock's table is gone from under the program: the product's row is written first, the
+  // stock's fails, and the whole save is undone.
+  f.inst().ejecutar({u"drop table stock"_s});
+  Pulsar(f, u"cmd_aceptar"_s);
+  QCOMPARE(f.inst().erroresMostrados().size(), 1);
+  QCOMPARE(f.inst().erroresMostrados().first().first, u"Productos  8"_s);
+  QCOMPARE(f.inst().filas(kColumnasProducto + u"where codigo = '5'"_s), antes);
+  QCOMPARE(f.inst().filas(kEnlaces), enlaces);
+  // The manager's changes are still there, to be saved again.
+  QVERIFY(f.control<QPushButton>(u"cmd_aceptar"_s)->isEnabled());
+  QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Tinto de verano"_s);
+  QVERIFY(!f.control<QLineEdit>(u"txt_nombre"_s)->isReadOnly());
 }
 
 PRODUCTOS_TEST_MAIN(TestAltaGrabacion)
