@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A touch is a press and a release of the left button on the same control.
+// A touch ends when the left button is released over the control.
 bool EsToque(const QEvent* evento) {
   if (evento->type() != QEvent::MouseButtonRelease)
     return false;
