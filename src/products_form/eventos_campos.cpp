@@ -1,5 +1,7 @@
 #include "eventos_campos.h"
 
+#include <algorithm>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -20,6 +22,8 @@ void EventosCampos::conectar(FiltroTeclas& filtro) {
   connect(g.cbo_Medida, &QComboBox::currentIndexChanged, this, &EventosCampos::cbo_MedidaClick);
   connect(g.ch_Mostrar, &QCheckBox::toggled, this, &EventosCampos::ch_MostrarClick);
   connect(g.chkProdEspecial, &QCheckBox::toggled, this, &EventosCampos::chkProdEspecialClick);
+  connect(g.bt_botonAnt, &QPushButton::clicked, this, [this] { MoverPosicion(-1); });
+  connect(g.bt_botonSig, &QPushButton::clicked, this, [this] { MoverPosicion(1); });
   for (QLineEdit* numero : {g.txtDescNumericaPGen, c_.elab.txtDescNumerica}) {
     filtro.poner(numero, [](QLineEdit*, int tecla) { return TeclaSoloDigitos(tecla); });
   }
@@ -55,6 +59,12 @@ void EventosCampos::chkProdEspecialClick(bool marcado) {
   } else {
     c_.gen.frMostrarCaja->show();
   }
+}
+
+void EventosCampos::MoverPosicion(int paso) {
+  // The position is a place on the till's screen: it never goes below 0.
+  const int posicion = c_.gen.lblPos->text().toInt() + paso;
+  c_.gen.lblPos->setText(QString::number(std::max(0, posicion)));
 }
 
 namespace {

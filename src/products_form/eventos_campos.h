@@ -9,7 +9,8 @@ class FiltroTeclas;
 // The field events of the simple-product screen that change what is shown: the unit of
 // measure brings the product kinds, showing on the till brings the picture and colour, a
 // special (entry or cloakroom) product is never shown on the till; and the numeric
-// descriptions take digits only.
+// descriptions take digits only. The arrows beside the position move the product one place
+// back or on among the till's buttons.
 class EventosCampos : public QObject {
  public:
   explicit EventosCampos(ControlesFormulario& controles, QObject* padre = nullptr);
@@ -24,6 +25,7 @@ class EventosCampos : public QObject {
   void cbo_MedidaClick(int indice);
   void ch_MostrarClick(bool marcado);
   void chkProdEspecialClick(bool marcado);
+  void MoverPosicion(int paso);
 
   ControlesFormulario& c_;
 };

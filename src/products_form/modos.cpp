@@ -328,6 +328,10 @@ void Modos::cmd_nuevo() {
 }
 
 void Modos::cmd_modificar() {
+  // With no product on show (the last one was deleted) there is nothing to change: changing
+  // the fields left on the screen would bring the deleted product back.
+  if (!estado_.hayProductos())
+    return;
   estado_.modificando = true;
   ModoCambios();
 }

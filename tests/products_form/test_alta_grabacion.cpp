@@ -87,6 +87,7 @@ class TestAltaGrabacion : public QObject {
   void unGerenteDaDeAltaUnProductoSimple();
   void modificarReescribeElProductoSuStockYSusProveedores();
   void eliminarPreguntaYSoloConSiMarcaElProducto();
+  void borradoElUltimoProductoModificarNoLoDevuelve();
   void unFalloAlGrabarDejaElProductoEnPantallaSinTocarNada();
 };
 
@@ -310,6 +311,20 @@ void TestAltaGrabacion::eliminarPreguntaYSoloConSiMarcaElProducto() {
   Pulsar(f, u"bt_botones_3"_s);
   QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Zumo"_s);
   QVERIFY(f.inst().erroresMostrados().isEmpty());
+}
+
+void TestAltaGrabacion::borradoElUltimoProductoModificarNoLoDevuelve() {
+  FormularioPrueba f({u"insert into proveedores (codigo, nombre, borrar) values ('P1', 'Sur', 0)"_s,
+                      Producto(u"1"_s, u"Caña"_s), Stock(u"1"_s, u"5"_s, u"1"_s)});
+  QVERIFY(f.mostrar());
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  f.dialogos().siguienteRespuesta(ServicioDialogos::Respuesta::Si);
+  Pulsar(f, u"cmd_eliminar"_s);
+  QCOMPARE(f.inst().filas(u"select borrar from productos"_s), (QList<QVariantList>{{-1}}));
+  QTest::mouseClick(f.control<QPushButton>(u"cmd_modificar"_s), Qt::LeftButton);
+  QVERIFY(!f.control<QPushButton>(u"cmd_aceptar"_s)->isEnabled());
+  QVERIFY(f.control<QLineEdit>(u"txt_nombre"_s)->isReadOnly());
+  QCOMPARE(f.inst().filas(u"select borrar from productos"_s), (QList<QVariantList>{{-1}}));
 }
 
 void TestAltaGrabacion::unFalloAlGrabarDejaElProductoEnPantallaSinTocarNada() {

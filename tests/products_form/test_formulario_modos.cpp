@@ -350,6 +350,16 @@ void TestFormularioModos::eventosDeLosCampos() {
   QVERIFY(Visible(f, u"pict_imagen"_s));
   QVERIFY(Visible(f, u"lblPos"_s));
 
+  // The arrows move the position one place, never below 0.
+  auto* posicion = f.control<QLabel>(u"lblPos"_s);
+  posicion->setText(u"1"_s);
+  Pulsar(f, u"bt_botonSig"_s);
+  QCOMPARE(posicion->text(), u"2"_s);
+  Pulsar(f, u"bt_botonAnt"_s);
+  Pulsar(f, u"bt_botonAnt"_s);
+  Pulsar(f, u"bt_botonAnt"_s);
+  QCOMPARE(posicion->text(), u"0"_s);
+
   // The numeric description takes digits only.
   auto* numero = f.control<QLineEdit>(u"txtDescNumericaPGen"_s);
   numero->clear();
