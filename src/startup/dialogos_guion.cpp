@@ -5,7 +5,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 QString Clave(QString nombre) {
-  if (nombre.endsWith(u".exe"_s, Qt::CaseInsensitive)) nombre.chop(4);
+  if (nombre.endsWith(u".exe"_s, Qt::CaseInsensitive))
+    nombre.chop(4);
   return nombre.toLower();
 }
 
@@ -18,7 +19,8 @@ void DialogosGuion::programaAbierto(const QString& nombreProceso, int instancias
 QList<DialogosGuion::Llamada> DialogosGuion::llamadasDe(const QString& tipo) const {
   QList<Llamada> r;
   for (const Llamada& l : llamadas_) {
-    if (l.tipo == tipo) r.append(l);
+    if (l.tipo == tipo)
+      r.append(l);
   }
   return r;
 }
@@ -26,7 +28,8 @@ QList<DialogosGuion::Llamada> DialogosGuion::llamadasDe(const QString& tipo) con
 QStringList DialogosGuion::mensajes() const {
   QStringList r;
   for (const Llamada& l : llamadas_) {
-    if (l.tipo == u"mensaje"_s) r.append(l.texto);
+    if (l.tipo == u"mensaje"_s)
+      r.append(l.texto);
   }
   return r;
 }
@@ -34,7 +37,8 @@ QStringList DialogosGuion::mensajes() const {
 ServicioDialogos::Respuesta DialogosGuion::mensaje(const QString& texto, const QString& titulo,
                                                    Icono icono, Botones botones) {
   llamadas_.append({u"mensaje"_s, texto, titulo, icono, botones});
-  if (!respuestas_.isEmpty()) return respuestas_.dequeue();
+  if (!respuestas_.isEmpty())
+    return respuestas_.dequeue();
   return botones == Botones::SiNo || botones == Botones::SiNoCancelar ? Respuesta::Si
                                                                       : Respuesta::Aceptar;
 }
@@ -68,7 +72,8 @@ bool DialogosGuion::programaEnEjecucion(const QString& nombreProceso) {
 bool DialogosGuion::cerrarPrograma(const QString& nombreProceso) {
   llamadas_.append({u"cerrarPrograma"_s, nombreProceso, {}});
   int& n = abiertos_[Clave(nombreProceso)];
-  if (n <= 0) return false;
+  if (n <= 0)
+    return false;
   --n;
   return true;
 }

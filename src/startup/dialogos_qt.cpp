@@ -16,12 +16,15 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QString TituloPrograma() { return u"Productos"_s; }
+QString TituloPrograma() {
+  return u"Productos"_s;
+}
 
 namespace {
 
 QString SinExe(QString nombre) {
-  if (nombre.endsWith(u".exe"_s, Qt::CaseInsensitive)) nombre.chop(4);
+  if (nombre.endsWith(u".exe"_s, Qt::CaseInsensitive))
+    nombre.chop(4);
   return nombre;
 }
 
@@ -49,8 +52,9 @@ ServicioDialogos::Respuesta DialogosQt::mensaje(const QString& texto, const QStr
       break;
   }
   // Large buttons: the manager answers with a finger.
-  caja.setStyleSheet(u"QPushButton { min-width: 120px; min-height: 48px; font-size: 16px; }"
-                     "QLabel { font-size: 16px; }"_s);
+  caja.setStyleSheet(
+      u"QPushButton { min-width: 120px; min-height: 48px; font-size: 16px; }"
+      "QLabel { font-size: 16px; }"_s);
   auto boton = [&caja](const QString& texto, QMessageBox::ButtonRole rol) {
     return caja.addButton(texto, rol);
   };
@@ -78,9 +82,12 @@ ServicioDialogos::Respuesta DialogosQt::mensaje(const QString& texto, const QStr
   }
   caja.exec();
   const QAbstractButton* pulsado = caja.clickedButton();
-  if (pulsado && pulsado == si) return Respuesta::Si;
-  if (pulsado && pulsado == no) return Respuesta::No;
-  if (pulsado && pulsado == aceptar) return Respuesta::Aceptar;
+  if (pulsado && pulsado == si)
+    return Respuesta::Si;
+  if (pulsado && pulsado == no)
+    return Respuesta::No;
+  if (pulsado && pulsado == aceptar)
+    return Respuesta::Aceptar;
   Q_UNUSED(cancelar);
   return botones == Botones::SiNo ? Respuesta::No : Respuesta::Cancelar;
 }
@@ -92,7 +99,8 @@ QString DialogosQt::abrirArchivo(const QString& titulo, const QString& carpeta,
 
 std::optional<QColor> DialogosQt::elegirColor(const QColor& inicial) {
   const QColor c = QColorDialog::getColor(inicial, QApplication::activeWindow());
-  if (!c.isValid()) return std::nullopt;
+  if (!c.isValid())
+    return std::nullopt;
   return c;
 }
 
@@ -113,13 +121,17 @@ QList<qint64> ProcesosConNombre(const QString& nombreProceso, const QString& car
   for (const QString& entrada : entradas) {
     bool ok = false;
     const qint64 pid = entrada.toLongLong(&ok);
-    if (!ok) continue;
+    if (!ok)
+      continue;
     QFile cmdline(carpetaProc + u'/' + entrada + u"/cmdline"_s);
-    if (!cmdline.open(QIODevice::ReadOnly)) continue;
+    if (!cmdline.open(QIODevice::ReadOnly))
+      continue;
     const QByteArray bruto = cmdline.readAll();
-    const QByteArray primero = bruto.left(bruto.indexOf('\0') < 0 ? bruto.size() : bruto.indexOf('\0'));
+    const QByteArray primero =
+        bruto.left(bruto.indexOf('\0') < 0 ? bruto.size() : bruto.indexOf('\0'));
     const QString programa = QFileInfo(QString::fromLocal8Bit(primero)).fileName();
-    if (SinExe(programa).compare(buscado, Qt::CaseInsensitive) == 0) pids.append(pid);
+    if (SinExe(programa).compare(buscado, Qt::CaseInsensitive) == 0)
+      pids.append(pid);
   }
   return pids;
 }
@@ -130,6 +142,7 @@ bool DialogosQt::programaEnEjecucion(const QString& nombreProceso) {
 
 bool DialogosQt::cerrarPrograma(const QString& nombreProceso) {
   const QList<qint64> pids = ProcesosConNombre(nombreProceso, u"/proc"_s);
-  if (pids.isEmpty()) return false;
+  if (pids.isEmpty())
+    return false;
   return ::kill(static_cast<pid_t>(pids.first()), SIGTERM) == 0;
 }

@@ -7,7 +7,8 @@ using namespace Qt::Literals::StringLiterals;
 
 QString Instalacion::CarpetaPorDefecto() {
   const QString nombrada = qEnvironmentVariable("PRODUCTOS_CARPETA");
-  if (!nombrada.isEmpty()) return QDir(nombrada).absolutePath();
+  if (!nombrada.isEmpty())
+    return QDir(nombrada).absolutePath();
   return QCoreApplication::applicationDirPath();
 }
 
@@ -18,7 +19,8 @@ Instalacion Instalacion::Cargar(const QString& carpeta) {
   i.origenes = OrigenesDatos::DesdeIni(i.configuracion, i.carpetaPrograma);
   i.ayudaWeb = i.configuracion.valor(u"ayuda"_s, u"web"_s);
   const QString ejecutable = i.configuracion.valor(u"instalacion"_s, u"ejecutable"_s);
-  if (!ejecutable.isEmpty()) i.nombreEjecutable = ejecutable;
+  if (!ejecutable.isEmpty())
+    i.nombreEjecutable = ejecutable;
   return i;
 }
 

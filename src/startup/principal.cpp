@@ -20,7 +20,8 @@ QString LeerInformes(const Entorno& entorno, const QString& sentencia, const QSt
     informes.abrir(kCadenaInformes, entorno.instalacion.origenes);
     Recordset rs(informes, sentencia);
     QString resultado;
-    if (rs.recordCount() > 0) resultado = rs.field(campo).toString();
+    if (rs.recordCount() > 0)
+      resultado = rs.field(campo).toString();
     rs.close();
     return resultado;
   } catch (const ErrorBD&) {
@@ -28,7 +29,9 @@ QString LeerInformes(const Entorno& entorno, const QString& sentencia, const QSt
   }
 }
 
-qint16 Entero16(const QVariant& v) { return static_cast<qint16>(v.toInt()); }
+qint16 Entero16(const QVariant& v) {
+  return static_cast<qint16>(v.toInt());
+}
 
 }  // namespace
 
@@ -45,9 +48,12 @@ QString ObtenerList1(const Entorno& entorno) {
 }
 
 QString CadenaConexion(const QString& tipo) {
-  if (tipo == u"RESTAURANTE"_s) return u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s;
-  if (tipo == u"FASTFOOD"_s) return u"dsn=lumbraFastFood;pwd=KorvanitesX%QQRT;"_s;
-  if (tipo == u"COPAS"_s) return u"dsn=lumbraCopas;pwd=KorvanitesX%QQRT;"_s;
+  if (tipo == u"RESTAURANTE"_s)
+    return u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s;
+  if (tipo == u"FASTFOOD"_s)
+    return u"dsn=lumbraFastFood;pwd=KorvanitesX%QQRT;"_s;
+  if (tipo == u"COPAS"_s)
+    return u"dsn=lumbraCopas;pwd=KorvanitesX%QQRT;"_s;
   return {};
 }
 
@@ -115,10 +121,10 @@ void LeerColorPanelFamilias(Entorno& entorno) {
 }
 
 void AbrirAyuda(Entorno& entorno, QString pagina) {
-  if (pagina.isEmpty()) return;
+  if (pagina.isEmpty())
+    return;
   if (!pagina.contains(u"www."_s)) {
-    const QString local =
-        QDir(entorno.instalacion.rutaEnCarpeta(u"ayuda"_s)).filePath(pagina);
+    const QString local = QDir(entorno.instalacion.rutaEnCarpeta(u"ayuda"_s)).filePath(pagina);
     pagina = QFileInfo::exists(local) ? local : entorno.instalacion.ayudaWeb + pagina;
   }
   entorno.dialogos->abrirDocumento(pagina);
@@ -126,7 +132,8 @@ void AbrirAyuda(Entorno& entorno, QString pagina) {
 
 QString RutaFotosDeBase(const QString& ruta, bool* otraUnidad) {
   *otraUnidad = ruta.left(1).toUpper() != u"C"_s;
-  if (!*otraUnidad) return {};
+  if (!*otraUnidad)
+    return {};
   const QString p = ruta + u".mdb"_s;
   const qsizetype posicion = p.toLower().indexOf(u"velandria.mdb"_s) + 1;
   if (posicion - 1 < 0) {
@@ -142,7 +149,8 @@ void UbicarBaseDeDatos(Entorno& entorno) {
   bool otraUnidad = false;
   const QString fotos = RutaFotosDeBase(entorno.ConexionBD->rutaPredeterminada(), &otraUnidad);
   s.BDEnOtraUnidad = otraUnidad;
-  if (otraUnidad) s.RutaFotosBD = fotos;
+  if (otraUnidad)
+    s.RutaFotosBD = fotos;
 }
 
 void LeerOpciones(Entorno& entorno) {
@@ -156,10 +164,11 @@ void LeerOpciones(Entorno& entorno) {
       rs.field(u"Terminal"_s);  // read, not kept
       s.tipo_programa = rs.field(u"tipo_programa"_s).toString();
       const QVariant fotos = rs.field(u"rutaFotos"_s);
-      if (!fotos.isNull()) s.rutaFotos = fotos.toString();
+      if (!fotos.isNull())
+        s.rutaFotos = fotos.toString();
       const QVariant idioma = rs.field(u"idioma"_s);
-      s.idioma = idioma.isNull() || idioma.toString().isEmpty() ? u"CASTELLANO"_s
-                                                                 : idioma.toString();
+      s.idioma =
+          idioma.isNull() || idioma.toString().isEmpty() ? u"CASTELLANO"_s : idioma.toString();
       const QVariant caja = rs.field(u"modocaja"_s);
       s.modocaja = caja.isNull() ? qint16(1) : Entero16(caja);
       s.animacioncaja = rs.field(u"animacioncaja"_s).toInt() == -1;
@@ -185,7 +194,8 @@ void Main(Entorno& entorno, const std::function<void()>& mostrarFormulario) {
   QCoreApplication::processEvents();
   AbrirConexion(entorno);
   // Without an open connection there is no database path to look at.
-  if (entorno.ConexionBD->abierta()) UbicarBaseDeDatos(entorno);
+  if (entorno.ConexionBD->abierta())
+    UbicarBaseDeDatos(entorno);
   LeerOpciones(entorno);
   try {
     LeerColorPanelFamilias(entorno);

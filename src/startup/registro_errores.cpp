@@ -9,15 +9,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Windows-1252 bytes 0x80..0x9F; 0 marks the five bytes it leaves undefined.
-constexpr char16_t kAlto[32] = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+constexpr char16_t kAlto[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 char ByteDe(char16_t c) {
-  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
+  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF))
+    return static_cast<char>(c);
   for (int i = 0; i < 32; ++i) {
-    if (kAlto[i] != 0 && kAlto[i] == c) return static_cast<char>(0x80 + i);
+    if (kAlto[i] != 0 && kAlto[i] == c)
+      return static_cast<char>(0x80 + i);
   }
   return '?';
 }
@@ -27,14 +29,17 @@ char ByteDe(char16_t c) {
 QByteArray AWindows1252(const QString& texto) {
   QByteArray bytes;
   bytes.reserve(texto.size());
-  for (QChar c : texto) bytes.append(ByteDe(c.unicode()));
+  for (QChar c : texto)
+    bytes.append(ByteDe(c.unicode()));
   return bytes;
 }
 
 RegistroErrores::RegistroErrores(QString carpetaPrograma, Mostrar mostrar)
     : carpeta_(std::move(carpetaPrograma)), mostrar_(std::move(mostrar)) {}
 
-QString RegistroErrores::rutaLog() const { return QDir(carpeta_).filePath(u"Errores.log"_s); }
+QString RegistroErrores::rutaLog() const {
+  return QDir(carpeta_).filePath(u"Errores.log"_s);
+}
 
 void RegistroErrores::RegistrarError(const QString& contexto, const QString& descripcion) {
   QFile log(rutaLog());
@@ -47,5 +52,6 @@ void RegistroErrores::RegistrarError(const QString& contexto, const QString& des
                              log.errorString().toStdString());
   }
   log.close();
-  if (mostrar_) mostrar_(contexto, descripcion);
+  if (mostrar_)
+    mostrar_(contexto, descripcion);
 }

@@ -4,9 +4,9 @@
 #include <QString>
 #include <functional>
 
-// The error log "Errores.log" of the program's folder. Each entry is one line, the context, ", Descripcion: " and the
-// description, with no date or time, in the ANSI code page (Windows-1252) that the suite's
-// other tools read. After writing, the entry is shown on the error form.
+// The error log "Errores.log" of the program's folder. Each entry is one line, the context, ",
+// Descripcion: " and the description, with no date or time, in the ANSI code page (Windows-1252)
+// that the suite's other tools read. After writing, the entry is shown on the error form.
 class RegistroErrores {
  public:
   using Mostrar = std::function<void(const QString& contexto, const QString& descripcion)>;

@@ -43,7 +43,8 @@ void TestDialogos::elGuionCierraLasInstanciasAbiertasUnaAUna() {
   DialogosGuion d;
   d.programaAbierto(u"Tarvelo"_s, 2);
   int cerrados = 0;
-  while (d.programaEnEjecucion(u"Tarvelo.exe"_s)) cerrados += d.cerrarPrograma(u"Tarvelo"_s);
+  while (d.programaEnEjecucion(u"Tarvelo.exe"_s))
+    cerrados += d.cerrarPrograma(u"Tarvelo"_s);
   QCOMPARE(cerrados, 2);
   QVERIFY(!d.cerrarPrograma(u"Tarvelo"_s));
   QCOMPARE(d.llamadasDe(u"cerrarPrograma"_s).size(), 3);

@@ -103,12 +103,13 @@ void TestPrincipal::abrirConexionNoReintentaSiAbreALaPrimera() {
 void TestPrincipal::mainLeeLaSesionEnOrdenConSusValoresPorDefecto() {
   InstalacionPrueba p;
   PrepararInformes(p, u"RESTAURANTE"_s);
-  p.ejecutar({u"insert into opciones (identificador, idioma, tipo_programa, numDecimales, "
-              "rutaFotos, modocaja, animacioncaja, Terminal) values ('INST1', '', 'COPAS', 2, "
-              "null, null, -1, 'T9')"_s,
-              u"insert into opciones (identificador, idioma) values ('OTRA', 'INGLES')"_s,
-              u"insert into opciones_terminal (identificador, empleado, id_color) values "
-              "('INST1T1', null, 3)"_s});
+  p.ejecutar(
+      {u"insert into opciones (identificador, idioma, tipo_programa, numDecimales, "
+       "rutaFotos, modocaja, animacioncaja, Terminal) values ('INST1', '', 'COPAS', 2, "
+       "null, null, -1, 'T9')"_s,
+       u"insert into opciones (identificador, idioma) values ('OTRA', 'INGLES')"_s,
+       u"insert into opciones_terminal (identificador, empleado, id_color) values "
+       "('INST1T1', null, 3)"_s});
   bool mostrado = false;
   Main(p.entorno(), [&] { mostrado = true; });
   QVERIFY(mostrado);
@@ -140,8 +141,9 @@ void TestPrincipal::mainLeeLaSesionEnOrdenConSusValoresPorDefecto() {
 void TestPrincipal::mainSinFilaDeOpcionesNiDeTerminal() {
   InstalacionPrueba p;
   PrepararInformes(p, u"RESTAURANTE"_s);
-  p.ejecutar({u"insert into relaciones_fijas (indice, daton) values "
-              "('opcion_color_panel_familias', 0)"_s});
+  p.ejecutar(
+      {u"insert into relaciones_fijas (indice, daton) values "
+       "('opcion_color_panel_familias', 0)"_s});
   Main(p.entorno(), [] {});
   const Sesion& s = p.entorno().sesion;
   QCOMPARE(s.idioma, QString());  // no row: not even the default language
@@ -202,8 +204,9 @@ void TestPrincipal::opcionesQueNoSePuedenLeerSeRegistranYSeSigue() {
 
 void TestPrincipal::colorDelPanelDeFamiliasLeidoDeRelacionesFijas() {
   InstalacionPrueba p;
-  p.ejecutar({u"insert into relaciones_fijas (indice, daton) values "
-              "('opcion_color_panel_familias', -1)"_s});
+  p.ejecutar(
+      {u"insert into relaciones_fijas (indice, daton) values "
+       "('opcion_color_panel_familias', -1)"_s});
   p.entorno().sesion.modocaja = 0;
   LeerColorPanelFamilias(p.entorno());
   QVERIFY(p.entorno().sesion.ColorPanelFamilias);

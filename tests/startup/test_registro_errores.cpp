@@ -63,7 +63,8 @@ void TestRegistroErrores::elFormularioDeErrorMuestraElMensajeSinBloquear() {
   QVERIFY(lbl->text().contains(u"no such table: opciones"_s));
   QCOMPARE(frm.font().family(), u"Verdana"_s);
   bool hayTitulo = false;
-  for (const QLabel* l : frm.findChildren<QLabel*>()) hayTitulo |= l->text() == u"Error:"_s;
+  for (const QLabel* l : frm.findChildren<QLabel*>())
+    hayTitulo |= l->text() == u"Error:"_s;
   QVERIFY(hayTitulo);
 }
 

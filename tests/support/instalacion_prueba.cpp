@@ -22,19 +22,23 @@ void CrearBase(const QString& ruta, const QList<Tabla>& tablas) {
 void EjecutarEn(const QString& ruta, const QStringList& sentencias) {
   Conexion c;
   c.abrirSQLite(ruta);
-  for (const QString& s : sentencias) c.ejecutar(s);
+  for (const QString& s : sentencias)
+    c.ejecutar(s);
 }
 
 }  // namespace
 
 InstalacionPrueba::InstalacionPrueba() {
-  if (!dir_.isValid()) throw std::runtime_error("no temporary folder");
+  if (!dir_.isValid())
+    throw std::runtime_error("no temporary folder");
   CrearBase(rutaPrincipal(), TablasPrincipales());
   CrearBase(rutaInformes(), TablasInformes());
   QFile ini(QDir(dir_.path()).filePath(u"productos.ini"_s));
-  if (!ini.open(QIODevice::WriteOnly)) throw std::runtime_error("no productos.ini");
-  ini.write("[dsn velandria]\ntipo=sqlite\narchivo=velandria.db\n\n"
-            "[dsn informes]\ntipo=sqlite\narchivo=informes.db\n");
+  if (!ini.open(QIODevice::WriteOnly))
+    throw std::runtime_error("no productos.ini");
+  ini.write(
+      "[dsn velandria]\ntipo=sqlite\narchivo=velandria.db\n\n"
+      "[dsn informes]\ntipo=sqlite\narchivo=informes.db\n");
   ini.close();
   entorno_ = std::make_unique<Entorno>(Instalacion::Cargar(dir_.path()), dialogos_);
   entorno_->registro.setMostrar([this](const QString& contexto, const QString& descripcion) {
@@ -43,12 +47,17 @@ InstalacionPrueba::InstalacionPrueba() {
   entorno_->ConexionBD->abrirSQLite(rutaPrincipal());
 }
 
-QString InstalacionPrueba::rutaPrincipal() const { return QDir(dir_.path()).filePath(u"velandria.db"_s); }
+QString InstalacionPrueba::rutaPrincipal() const {
+  return QDir(dir_.path()).filePath(u"velandria.db"_s);
+}
 
-QString InstalacionPrueba::rutaInformes() const { return QDir(dir_.path()).filePath(u"informes.db"_s); }
+QString InstalacionPrueba::rutaInformes() const {
+  return QDir(dir_.path()).filePath(u"informes.db"_s);
+}
 
 void InstalacionPrueba::ejecutar(const QStringList& sentencias) {
-  for (const QString& s : sentencias) conexion().ejecutar(s);
+  for (const QString& s : sentencias)
+    conexion().ejecutar(s);
 }
 
 void InstalacionPrueba::ejecutarEnInformes(const QStringList& sentencias) {
@@ -60,7 +69,8 @@ QList<QVariantList> InstalacionPrueba::filas(const QString& consulta) {
   QSqlQuery q = conexion().consultar(consulta);
   while (q.next()) {
     QVariantList fila;
-    for (int i = 0; i < q.record().count(); ++i) fila.append(q.value(i));
+    for (int i = 0; i < q.record().count(); ++i)
+      fila.append(q.value(i));
     r.append(fila);
   }
   return r;

@@ -41,7 +41,8 @@ int main(int argc, char* argv[]) {
       conexion.abrirSQLite(origen->archivo);  // creates the file
     } else {
       QString cadena = u"dsn="_s + dsn + u';';
-      if (opciones.isSet(u"clave"_s)) cadena += u"pwd="_s + opciones.value(u"clave"_s) + u';';
+      if (opciones.isSet(u"clave"_s))
+        cadena += u"pwd="_s + opciones.value(u"clave"_s) + u';';
       conexion.abrir(cadena, instalacion.origenes);
     }
     CrearEsquema(conexion, opciones.isSet(u"informes"_s) ? TablasInformes() : TablasPrincipales());
