@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "alta_producto.h"
+#include "atajos_teclado.h"
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
@@ -89,6 +90,7 @@ void FrmProductos1024::conectar() {
   lista->conectar();
   // A shown product needs its colour: the accept opens the colour choice for it.
   alta->mostrarColores = [imagenColor] { imagenColor->mostrarColores(); };
+  new AtajosTeclado(this);
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {

@@ -137,6 +137,18 @@ defecto. Toque el recuadro del color para elegir el color del botón en la caja.
 <p>El botón de precios abre el programa de precios de la instalación para cambiar los precios de
 muchos productos a la vez.</p>
 
+<h2>Con el teclado</h2>
+<table>
+<tr><th>Tecla</th><th>Hace lo mismo que</th></tr>
+<tr><td>Av Pág / Re Pág</td><td>Siguiente / Anterior</td></tr>
+<tr><td>Ctrl + Inicio / Ctrl + Fin</td><td>Primero / Ultimo</td></tr>
+<tr><td>Insert</td><td>Nuevo</td></tr>
+<tr><td>F2</td><td>Modificar</td></tr>
+<tr><td>F10</td><td>Aceptar</td></tr>
+<tr><td>F1</td><td>Ayuda</td></tr>
+</table>
+<p>Una tecla solo actúa cuando su botón está visible y activo.</p>
+
 <h2>Botones desactivados</h2>
 <p>Si un botón aparece en gris, el empleado de este terminal no tiene permiso para usarlo. Lo
 asigna el encargado en la gestión de empleados.</p>
