@@ -1,7 +1,10 @@
 #include "colorear.h"
 
+#include <QAbstractScrollArea>
+#include <QApplication>
 #include <QHeaderView>
 #include <QPalette>
+#include <QScrollBar>
 #include <QTableView>
 #include <QWidget>
 
@@ -92,6 +95,21 @@ QColor TextoSobre(const QWidget* contenedor, const QList<QColor>& e) {
 
 // --- colours of one control ---
 
+// Gives a control the style's palette as its own, every role set, so that nothing of its
+// container's colours reaches it.
+void PonerPaletaPropia(QWidget* control) {
+  const QPalette estilo = QApplication::palette(control);
+  QPalette propia;
+  for (int g = 0; g < QPalette::NColorGroups; ++g) {
+    for (int r = 0; r < QPalette::NColorRoles; ++r) {
+      const auto grupo = static_cast<QPalette::ColorGroup>(g);
+      const auto rol = static_cast<QPalette::ColorRole>(r);
+      propia.setBrush(grupo, rol, estilo.brush(grupo, rol));
+    }
+  }
+  control->setPalette(propia);
+}
+
 void PonerColorFondo(QWidget* control, const QColor& color) {
   switch (TipoDe(control)) {
     case TipoControl::Boton:
@@ -101,6 +119,12 @@ void PonerColorFondo(QWidget* control, const QColor& color) {
     case TipoControl::Entrada:
       PonerRol(control, QPalette::Base, color, true);
       PonerRol(control, QPalette::Button, color, true);  // a combo box without typing
+      // A list's scroll bars would inherit that colour and vanish into the list: they keep
+      // the style's own.
+      if (auto* area = qobject_cast<QAbstractScrollArea*>(control)) {
+        for (QScrollBar* barra : {area->verticalScrollBar(), area->horizontalScrollBar()})
+          PonerPaletaPropia(barra);
+      }
       break;
     case TipoControl::Rejilla:
       // The fixed row and column: the headers and their corner take the table's button colour.
@@ -190,6 +214,10 @@ void PintarFormulario(QWidget* formulario, const QList<QColor>& e) {
   formulario->setAutoFillBackground(true);
   const QList<QWidget*> controles = ControlesDe(formulario);
   for (QWidget* control : controles) {
+    // A list's scroll bars keep the style's own colours: painted like the list they vanish
+    // into it, white on white.
+    if (qobject_cast<QScrollBar*>(control) || qobject_cast<QScrollBar*>(control->parentWidget()))
+      continue;
     const QWidget* contenedor = ContenedorDe(control, formulario);
     switch (TipoDe(control)) {
       case TipoControl::Boton:

@@ -1,6 +1,8 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QImage>
+#include <QListWidget>
+#include <QScrollBar>
 #include <QtTest>
 
 #include "color_vb.h"
@@ -126,6 +128,9 @@ class TestColorear : public QObject {
       QCOMPARE(ColorFondo(Hijo(f.get(), n)), E(kClaro, 6));
       QCOMPARE(ColorTexto(Hijo(f.get(), n)), E(kClaro, 5));
     }
+    auto* lista = Hijo<QListWidget>(f.get(), u"lstProductos"_s);
+    QCOMPARE(lista->verticalScrollBar()->palette().color(QPalette::Button),
+             QApplication::palette().color(QPalette::Button));
     QCOMPARE(ColorFondo(Hijo(f.get(), u"grdIngredientes"_s)), E(kClaro, 8));
     QCOMPARE(Hijo<QTableWidget>(f.get(), u"grdIngredientes"_s)->palette().color(QPalette::Base),
              QApplication::palette().color(QPalette::Base));
