@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <memory>
 
 #include "entorno.h"
 #include "error_bd.h"
@@ -155,28 +156,41 @@ void UbicarBaseDeDatos(Entorno& entorno) {
 
 void LeerOpciones(Entorno& entorno) {
   Sesion& s = entorno.sesion;
+  std::unique_ptr<Recordset> rs;
   try {
-    Recordset rs(*entorno.ConexionBD, u"Select * from opciones where identificador = '"_s +
-                                          s.IdentificadorInstalacion + u"'"_s);
-    if (rs.recordCount() > 0) {
-      const QVariant decimales = rs.field(u"numDecimales"_s);
-      s.numDecimales = decimales.isNull() ? 0 : Entero16(decimales);
-      rs.field(u"Terminal"_s);  // read, not kept
-      s.tipo_programa = rs.field(u"tipo_programa"_s).toString();
-      const QVariant fotos = rs.field(u"rutaFotos"_s);
-      if (!fotos.isNull())
-        s.rutaFotos = fotos.toString();
-      const QVariant idioma = rs.field(u"idioma"_s);
-      s.idioma =
-          idioma.isNull() || idioma.toString().isEmpty() ? u"CASTELLANO"_s : idioma.toString();
-      const QVariant caja = rs.field(u"modocaja"_s);
-      s.modocaja = caja.isNull() ? qint16(1) : Entero16(caja);
-      s.animacioncaja = rs.field(u"animacioncaja"_s).toInt() == -1;
-    }
-    rs.close();
+    rs = std::make_unique<Recordset>(
+        *entorno.ConexionBD,
+        u"Select * from opciones where identificador = '"_s + s.IdentificadorInstalacion + u"'"_s);
   } catch (const ErrorBD& e) {
+    // Only the open is logged; the options keep their defaults.
     entorno.RegistrarError(u"opciones  1"_s, e.descripcion());
+    return;
   }
+  // Each option is read on its own: one that cannot be read keeps its default and the next is
+  // read all the same.
+  const auto leer = [&rs](const QString& campo, const std::function<void(const QVariant&)>& usar) {
+    try {
+      usar(rs->field(campo));
+    } catch (const ErrorBD&) {
+    }
+  };
+  if (rs->recordCount() > 0) {
+    leer(u"numDecimales"_s,
+         [&](const QVariant& v) { s.numDecimales = v.isNull() ? qint16(0) : Entero16(v); });
+    leer(u"Terminal"_s, [](const QVariant&) {});  // read, not kept
+    leer(u"tipo_programa"_s, [&](const QVariant& v) { s.tipo_programa = v.toString(); });
+    leer(u"rutaFotos"_s, [&](const QVariant& v) {
+      if (!v.isNull())
+        s.rutaFotos = v.toString();
+    });
+    leer(u"idioma"_s, [&](const QVariant& v) {
+      s.idioma = v.isNull() || v.toString().isEmpty() ? u"CASTELLANO"_s : v.toString();
+    });
+    leer(u"modocaja"_s,
+         [&](const QVariant& v) { s.modocaja = v.isNull() ? qint16(1) : Entero16(v); });
+    leer(u"animacioncaja"_s, [&](const QVariant& v) { s.animacioncaja = v.toInt() == -1; });
+  }
+  rs->close();
 }
 
 void Main(Entorno& entorno, const std::function<void()>& mostrarFormulario) {
@@ -197,14 +211,16 @@ void Main(Entorno& entorno, const std::function<void()>& mostrarFormulario) {
   if (entorno.ConexionBD->abierta())
     UbicarBaseDeDatos(entorno);
   LeerOpciones(entorno);
-  try {
-    LeerColorPanelFamilias(entorno);
-    s.EmpleadoActual = ObtenerEmpleado(entorno);
-    ObtenerEmpleadoYColor(entorno);
-  } catch (const ErrorBD& e) {
-    // Without a usable connection these readers fail; the session keeps its defaults and the
-    // form still opens, so that the manager sees the logged error.
-    entorno.RegistrarError(u"Principal  1"_s, e.descripcion());
+  // Without a connection (already logged) the terminal's readers keep their defaults and the
+  // form still opens, so that the manager sees what happened.
+  if (entorno.ConexionBD->abierta()) {
+    try {
+      LeerColorPanelFamilias(entorno);
+      s.EmpleadoActual = ObtenerEmpleado(entorno);
+      ObtenerEmpleadoYColor(entorno);
+    } catch (const ErrorBD& e) {
+      entorno.RegistrarError(u"Principal  1"_s, e.descripcion());
+    }
   }
   mostrarFormulario();
 }

@@ -20,6 +20,7 @@ class TestPrincipal : public QObject {
   void mainConTipoDeProgramaEnMinusculasNoAbreBaseYSigue();
   void mainConUnaBaseDeOtroNombreEsUnErrorEnTiempoDeEjecucion();
   void opcionesQueNoSePuedenLeerSeRegistranYSeSigue();
+  void unaOpcionQueFaltaNoImpideLeerLasDemas();
   void colorDelPanelDeFamiliasLeidoDeRelacionesFijas();
   void ayudaLocalWebODireccion();
 };
@@ -162,7 +163,11 @@ void TestPrincipal::mainConTipoDeProgramaEnMinusculasNoAbreBaseYSigue() {
   Main(p.entorno(), [&] { mostrado = true; });
   QVERIFY(mostrado);
   QCOMPARE(p.entorno().sesion.ModoPrograma, qint16(-1));
-  QVERIFY(p.log().startsWith("Base de datos  16, Descripcion: "));
+  // The failed open, then the options that could not be read: nothing else.
+  const QList<QByteArray> lineas = p.log().split('\n');
+  QCOMPARE(lineas.size(), 3);
+  QVERIFY(lineas.at(0).startsWith("Base de datos  16, Descripcion: "));
+  QVERIFY(lineas.at(1).startsWith("opciones  1, Descripcion: "));
 
   InstalacionPrueba q;
   PrepararInformes(q, u"FASTFOOD"_s);
@@ -200,6 +205,25 @@ void TestPrincipal::opcionesQueNoSePuedenLeerSeRegistranYSeSigue() {
   QVERIFY(p.log().startsWith("opciones  1, Descripcion: no such table: opciones"));
   QCOMPARE(p.entorno().sesion.modocaja, qint16(1));
   QCOMPARE(p.erroresMostrados().first().first, u"opciones  1"_s);
+}
+
+void TestPrincipal::unaOpcionQueFaltaNoImpideLeerLasDemas() {
+  InstalacionPrueba p;
+  PrepararInformes(p, u"RESTAURANTE"_s);
+  // An installation whose opciones lacks Terminal and numDecimales.
+  p.ejecutar({u"drop table opciones"_s,
+              u"create table opciones (identificador text, idioma text, tipo_programa text, "
+              "rutaFotos text, modocaja integer, animacioncaja integer)"_s,
+              u"insert into opciones values ('INST1', 'INGLES', 'COPAS', '/fotos/', 2, -1)"_s});
+  Main(p.entorno(), [] {});
+  const Sesion& s = p.entorno().sesion;
+  QCOMPARE(s.numDecimales, qint16(0));
+  QCOMPARE(s.tipo_programa, u"COPAS"_s);
+  QCOMPARE(s.rutaFotos, u"/fotos/"_s);
+  QCOMPARE(s.idioma, u"INGLES"_s);
+  QCOMPARE(s.modocaja, qint16(2));
+  QVERIFY(s.animacioncaja);
+  QVERIFY(p.log().isEmpty());
 }
 
 void TestPrincipal::colorDelPanelDeFamiliasLeidoDeRelacionesFijas() {
