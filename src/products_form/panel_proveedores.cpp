@@ -129,8 +129,6 @@ void PanelProveedores::cerrar() {
 }
 
 void PanelProveedores::cmd_CancelarProveedor() {
+  // Nothing is written; the lists are rebuilt from the database when the panel opens again.
   cerrar();
-  // What was moved and not accepted is dropped: the lists are the product's links again, the
-  // ones that saving the product writes.
-  CargarListasProveedores(estado_.codigoActual);
 }

@@ -137,13 +137,9 @@ void ZonaImpresoras::AbrirImpresoras() {
           CaptionAlAbrirImpresoras(estado_.impresoraElegida, nombreProducto())) {
     m.lblNomProd->setText(*linea);
   }
-  // The list opens on the product's printer, so that accepting it untouched keeps that printer;
-  // with none, no row is chosen and accepting keeps none.
-  const int fila = SinImpresoraEspecifica(estado_.impresoraElegida)
-                       ? -1
-                       : static_cast<int>(Lineas(m.lbCodigos).indexOf(estado_.impresoraElegida));
-  m.lb_impresoras->setCurrentRow(fila);
-  m.lbCodigos->setCurrentRow(fila);
+  // The list opens with no row chosen: accepting it untouched means no specific printer.
+  m.lb_impresoras->setCurrentRow(-1);
+  m.lbCodigos->setCurrentRow(-1);
   MostrarMarco(m.frImpresoras);
 }
 
@@ -174,8 +170,6 @@ void ZonaImpresoras::Command5Click() {
     return;
   }
   estado_.impresoraElegida = u"0"_s;
-  // With no specific printer the product's line is empty, as the record display shows it.
-  m.lblNomProd->clear();
   m.frImpresoras->hide();
 }
 

@@ -176,10 +176,13 @@ void TestPanelProveedores::cancelarNoEscribeNadaYVuelveALoGuardado() {
   QVERIFY(f.control<QWidget>(u"cmd_aceptar"_s)->isEnabled());
   QCOMPARE(f.inst().filas(kEnlaces), antes);
   QCOMPARE(f.control<QPushButton>(u"cmd_Proveedor"_s)->text(), caption);
-  // What was moved is dropped: the product's save would write the stored links again.
+  // The moved lines stay in the lists until the panel opens again, which rebuilds them from
+  // the database.
+  QCOMPARE(Lineas(asignados), (QStringList{LineaProveedor(u"Frutas Ana"_s, u"P3"_s),
+                                           LineaProveedor(u"Bodegas Norte"_s, u"P2"_s)}));
+  Pulsar(f, u"cmd_Proveedor"_s);
   QCOMPARE(Lineas(asignados), (QStringList{LineaProveedor(u"Bodegas Norte"_s, u"P2"_s),
                                            LineaProveedor(u"Distribuciones Sur"_s, u"P1"_s)}));
-  Pulsar(f, u"cmd_Proveedor"_s);
   QCOMPARE(Lineas(libres), QStringList{LineaProveedor(u"Frutas Ana"_s, u"P3"_s)});
   QVERIFY(f.inst().erroresMostrados().isEmpty());
 }

@@ -131,13 +131,14 @@ void TestZonaImpresoras::aceptarSinFilaOSinImpresoraGuardaCero() {
   Pulsar(f, u"cmd_ProdGenerico"_s);
   QCOMPARE(f.forma().estado().impresoraElegida, u"5"_s);
 
-  // "Ninguna" leaves the product with no specific printer, and its line empty.
+  // "Ninguna" leaves the product with no specific printer; the line is left as it was.
   Pulsar(f, u"cmd_modificar"_s);
   Pulsar(f, u"cmdImpresoras"_s);
+  const QString linea = Linea(f);
   Pulsar(f, u"Command5"_s);
   QVERIFY(!Visible(f, u"frImpresoras"_s));
   QCOMPARE(f.forma().estado().impresoraElegida, u"0"_s);
-  QCOMPARE(Linea(f), QString());
+  QCOMPARE(Linea(f), linea);
 
   // Accepting with no row chosen keeps no printer either, whatever the previous product chose.
   Pulsar(f, u"cmd_cancelar"_s);
@@ -217,8 +218,9 @@ void TestZonaImpresoras::unProductoConImpresoraLaConservaAlReabrir() {
   const QString linea = u"Producto = Caña = su elaboracion saldra X la impresora de Cocina"_s;
   Pulsar(f, u"cmdImpresoras"_s);
   QCOMPARE(Linea(f), linea);
-  QCOMPARE(f.control<QListWidget>(u"lb_impresoras"_s)->currentItem()->text(), u"Cocina"_s);
-  Pulsar(f, u"Command3"_s);
+  // No row is chosen: closing keeps the printer, accepting would leave none.
+  QCOMPARE(f.control<QListWidget>(u"lb_impresoras"_s)->currentRow(), -1);
+  Pulsar(f, u"cmdCerrarImpresoras"_s);
   QCOMPARE(f.forma().estado().impresoraElegida, u"5"_s);
   QCOMPARE(Linea(f), linea);
 }
