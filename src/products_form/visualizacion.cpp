@@ -121,7 +121,7 @@ QString TextoDeValor(const QVariant& valor) {
     case QMetaType::Float: {
       QLocale l;
       l.setNumberOptions(QLocale::OmitGroupSeparator);
-      return l.toString(valor.toDouble(), 'g', QLocale::FloatingPointShortest);
+      return l.toString(valor.toDouble(), 'f', QLocale::FloatingPointShortest);
     }
     default:
       return valor.toString();

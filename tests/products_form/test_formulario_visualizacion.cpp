@@ -61,7 +61,17 @@ class TestFormularioVisualizacion : public QObject {
   void sinProductosLasFlechasNoHacenNada();
   void elBuscadorDevuelveUnCodigo();
   void muestraUnElaborado();
+  void unNumeroGuardadoSeLeeComoSeEscribe();
 };
+
+void TestFormularioVisualizacion::unNumeroGuardadoSeLeeComoSeEscribe() {
+  // The locale's separator, no grouping, no trailing zeros and never an exponent.
+  QCOMPARE(TextoDeValor(QVariant(1000000.0)), u"1000000"_s);
+  QCOMPARE(TextoDeValor(QVariant(1234.5)), u"1234,5"_s);
+  QCOMPARE(TextoDeValor(QVariant(0.125)), u"0,125"_s);
+  QCOMPARE(TextoDeValor(QVariant(3)), u"3"_s);
+  QCOMPARE(TextoDeValor(QVariant()), QString());
+}
 
 void TestFormularioVisualizacion::muestraUnProductoCampoACampo() {
   FormularioPrueba f({kFamilia, kImpresora, kProveedor,
