@@ -15,6 +15,7 @@
 #include "imagen_color.h"
 #include "importes.h"
 #include "lista_productos_form.h"
+#include "listas_componentes.h"
 #include "marcos_auxiliares.h"
 #include "modos.h"
 #include "panel_familias.h"
@@ -90,6 +91,8 @@ void FrmProductos1024::conectar() {
   lista->conectar();
   // A shown product needs its colour: the accept opens the colour choice for it.
   alta->mostrarColores = [imagenColor] { imagenColor->mostrarColores(); };
+  auto* componentes = new ListasComponentes(entorno_, controles_, this);
+  componentes->conectar(*modos_);
   new AtajosTeclado(this);
 }
 
