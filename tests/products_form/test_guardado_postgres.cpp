@@ -1,0 +1,193 @@
+#include <QDate>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QtTest>
+
+#include "codigos_producto.h"
+#include "esquema.h"
+#include "grabacion_producto.h"
+#include "instalacion_prueba.h"
+#include "listas_productos.h"
+#include "postgres_prueba.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// Installations with many terminals keep the catalogue on PostgreSQL: what a save writes there
+// must be what the other programs read, column by column, and two terminals saving at once must
+// still get distinct codes.
+class TestGuardadoPostgres : public QObject {
+  Q_OBJECT
+ private slots:
+  void initTestCase();
+  void grabaModificaYEliminaComoEnSQLite();
+  void dosTerminalesNoCompartenCodigo();
+
+ private:
+  std::unique_ptr<PostgresPrueba> pg_;
+  OrigenDatos origen_;
+};
+
+namespace {
+
+const QString kCadena = u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s;
+
+ProductoFormulario Cana() {
+  ProductoFormulario p;
+  p.nombre = u"Caña"_s;
+  p.descripcion = u"Cerveza de barril"_s;
+  p.codigoBarras = u"8410000000017"_s;
+  p.coste = u"0,6"_s;
+  p.margen = u"1"_s;
+  p.precio = u"1,76"_s;
+  p.iva = u"10"_s;
+  p.stockActual = u"24"_s;
+  p.stockMinimo = u"5"_s;
+  p.unidadMedida = u"Unidades"_s;
+  p.optBarra = true;
+  p.optAmbos = true;
+  p.color = u"255"_s;
+  p.foto = u"cana.jpg"_s;
+  p.impresora = u"2"_s;
+  p.descNumerica = u"12"_s;
+  p.posicion = u"3"_s;
+  p.familia = u"7"_s;
+  p.proveedores = {LineaLista(u"Mahou"_s, u"P01"_s), LineaLista(u"Sur"_s, u"PRV123"_s)};
+  return p;
+}
+
+QList<QVariantList> Filas(Conexion& c, const QString& consulta) {
+  QList<QVariantList> r;
+  QSqlQuery q = c.consultar(consulta);
+  while (q.next()) {
+    QVariantList fila;
+    for (int i = 0; i < q.record().count(); ++i)
+      fila.append(q.value(i));
+    r.append(fila);
+  }
+  return r;
+}
+
+// An installation whose shared connection is on the test server's database.
+void UsarPostgres(InstalacionPrueba& inst, const OrigenDatos& origen) {
+  inst.entorno().instalacion.origenes.mapear(u"velandria"_s, origen);
+  inst.entorno().ConexionBD = std::make_unique<Conexion>();
+  inst.entorno().ConexionBD->abrir(kCadena, inst.entorno().instalacion.origenes);
+  inst.entorno().sesion.tipo_programa = u"RESTAURANTE"_s;
+}
+
+}  // namespace
+
+void TestGuardadoPostgres::initTestCase() {
+  // The amounts are typed with the Spanish separator.
+  QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+  pg_ = std::make_unique<PostgresPrueba>();
+  QVERIFY2(pg_->arrancado(), qPrintable(pg_->error()));
+  origen_ = pg_->crearBaseDatos(u"velandria"_s);
+  QVERIFY2(!origen_.baseDatos.isEmpty(), qPrintable(pg_->error()));
+  Conexion c;
+  OrigenesDatos origenes;
+  origenes.mapear(u"velandria"_s, origen_);
+  c.abrir(kCadena, origenes);
+  CrearEsquema(c, TablasPrincipales());
+}
+
+void TestGuardadoPostgres::grabaModificaYEliminaComoEnSQLite() {
+  InstalacionPrueba inst;
+  UsarPostgres(inst, origen_);
+  Conexion& c = inst.conexion();
+  QCOMPARE(c.motor(), Motor::PostgreSQL);
+  c.ejecutar(u"delete from productos"_s);
+  c.ejecutar(u"delete from stock"_s);
+  c.ejecutar(u"delete from productoproveedor"_s);
+  c.ejecutar(u"insert into productos (codigo, nombre, borrar) values ('9', 'Borrado', -1)"_s);
+
+  const std::optional<qint64> codigo = GrabarProductoNuevo(inst.entorno(), Cana());
+  QCOMPARE(codigo, std::optional<qint64>(10));  // "10" after "9", the deleted one included
+  const QString columnas =
+      u"select codigo, nombre, descripcion, codigobarras, seccion, coste, margencomercial, "
+      "precio, iva, fechaalta, foto, color, proveedor, unidadmedida, stockminimo, "
+      "mostrarencaja, hechoen, tipoprod, descnumerica, orden, impresora, productoespecial, "
+      "borrar from productos where codigo = '10'"_s;
+  QCOMPARE(Filas(c, columnas), (QList<QVariantList>{{u"10"_s,
+                                                     u"Caña"_s,
+                                                     u"Cerveza de barril"_s,
+                                                     u"8410000000017"_s,
+                                                     u"7"_s,
+                                                     0.6,
+                                                     1.0,
+                                                     1.76,
+                                                     10.0,
+                                                     QDate::currentDate(),
+                                                     u"cana.jpg"_s,
+                                                     255,
+                                                     u"P01"_s,
+                                                     u"Unidades"_s,
+                                                     5.0,
+                                                     0,
+                                                     1,
+                                                     2,
+                                                     12,
+                                                     3,
+                                                     2,
+                                                     0,
+                                                     0}}));
+  QCOMPARE(Filas(c, u"select producto, stock, stockminimo, consumicionesdisponibles from stock"_s),
+           (QList<QVariantList>{{10, 24.0, 5.0, 0.0}}));
+  QCOMPARE(
+      Filas(c, u"select producto, proveedor, coste from productoproveedor order by proveedor"_s),
+      (QList<QVariantList>{{u"10"_s, u"P01"_s, 0.0}, {u"10"_s, u"PRV123"_s, 0.0}}));
+  // Text compares without regard to letter case, as the till expects.
+  QVERIFY(bcomprobarSiExisteNombre(inst.entorno(), u"CAña"_s, 99));
+  QVERIFY(!bcomprobarSiExisteNombre(inst.entorno(), u"CAña"_s, 10));
+
+  ProductoFormulario cambio = Cana();
+  cambio.codigo = 10;
+  cambio.precio = u"2"_s;
+  cambio.foto.clear();
+  cambio.proveedores = {LineaLista(u"Sur"_s, u"PRV123"_s)};
+  QVERIFY(modificarProducto(inst.entorno(), cambio));
+  QCOMPARE(Filas(c, u"select precio, foto, proveedor from productos where codigo = '10'"_s),
+           (QList<QVariantList>{{2.0, u"cana.jpg"_s, u"PRV123"_s}}));
+  QCOMPARE(Filas(c, u"select proveedor from productoproveedor"_s),
+           (QList<QVariantList>{{u"PRV123"_s}}));
+
+  QVERIFY(EliminarProducto(inst.entorno(), 10));
+  QCOMPARE(Filas(c, u"select borrar from productos where codigo = '10'"_s),
+           (QList<QVariantList>{{-1}}));
+  QVERIFY(Filas(c, u"select * from stock"_s).isEmpty());
+  QVERIFY(inst.erroresMostrados().isEmpty());
+}
+
+void TestGuardadoPostgres::dosTerminalesNoCompartenCodigo() {
+  InstalacionPrueba inst;
+  UsarPostgres(inst, origen_);
+  InstalacionPrueba otra;
+  UsarPostgres(otra, origen_);
+  inst.conexion().ejecutar(u"delete from productos"_s);
+  inst.conexion().ejecutar(u"delete from stock"_s);
+
+  ProductoFormulario deOtra = Cana();
+  deOtra.nombre = u"De la otra terminal"_s;
+  QList<qint64> asignados;
+  std::optional<qint64> codigoOtra;
+  // This terminal reads the next code; before it writes, the other one saves under it.
+  auto asignar = [&](Conexion& conexion) {
+    const qint64 codigo = CodigoProductoNuevo(conexion);
+    if (asignados.isEmpty())
+      codigoOtra = GrabarProductoNuevo(otra.entorno(), deOtra);
+    asignados.append(codigo);
+    return codigo;
+  };
+  const std::optional<qint64> codigo = GrabarProductoNuevo(inst.entorno(), Cana(), asignar);
+  QCOMPARE(codigoOtra, std::optional<qint64>(1));
+  QCOMPARE(asignados, (QList<qint64>{1, 2}));
+  QCOMPARE(codigo, std::optional<qint64>(2));
+  QCOMPARE(Filas(inst.conexion(), u"select codigo, nombre from productos order by codigo"_s),
+           (QList<QVariantList>{{u"1"_s, u"De la otra terminal"_s}, {u"2"_s, u"Caña"_s}}));
+  QCOMPARE(Filas(inst.conexion(), u"select producto from stock order by producto"_s),
+           (QList<QVariantList>{{1}, {2}}));
+  QVERIFY(inst.erroresMostrados().isEmpty());
+}
+
+QTEST_MAIN(TestGuardadoPostgres)
+#include "test_guardado_postgres.moc"
