@@ -168,7 +168,7 @@ QString ValComoCast(const QString& codigo) {
 namespace {
 
 // Appends "nulls first" / "nulls last" to every key of every order by, so that NULL sorts
-// lowest as on the original engine. Works on the whole statement with literals masked.
+// lowest as on the suite's desktop database. Works on the whole statement with literals masked.
 QString OrdenarNulosComoJet(const QList<Trozo>& trozos) {
   // Mask literals so that the scan sees code only; keep a map back to the originals.
   QString mascara;

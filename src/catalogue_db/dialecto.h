@@ -3,9 +3,9 @@
 #include <QString>
 
 // The database engines that the suite's statements run on. The statements are written in the
-// dialect of the suite's original desktop database; each engine needs a few measured rewrites.
+// dialect of the suite's desktop database; each engine needs a few measured rewrites.
 enum class Motor {
-  Access,      // the original dialect: statements run as written
+  Access,      // the suite's own dialect: statements run as written
   SQLite,      // Qt's own SQLite driver
   SQLiteODBC,  // SQLite behind the SQLite ODBC driver (no user functions there)
   PostgreSQL,  // native driver or psqlODBC, text columns as citext

@@ -11,7 +11,7 @@ class Conexion;
 // The tables and columns that the program reads and writes in the suite's shared database,
 // spelled as its statements spell them. Names are matched without regard to letter case.
 enum class TipoColumna {
-  Texto,     // compared without regard to letter case, as the original engine does
+  Texto,     // compared without regard to letter case, as the suite's desktop database does
   Entero,    // whole number
   Booleano,  // -1 true, 0 false
   Doble,

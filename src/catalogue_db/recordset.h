@@ -22,7 +22,7 @@ class Recordset {
   bool bof() const;
   bool eof() const;
   void moveFirst();
-  void movePrevious();  // throws at BOF, as the original recordsets do
+  void movePrevious();  // throws at BOF, as the suite's recordsets always have
   void moveNext();      // throws at EOF
   void moveLast();
 

@@ -2,7 +2,7 @@
 
 #include <QStringView>
 
-// The numeric value at the start of a text, as the original database's Val() reads it: blanks
-// anywhere are skipped, a sign, digits, one decimal point and an exponent are taken, the rest
-// is ignored. "12abc" is 12, "" and "abc" are 0, "-3.5e2" is -350. Also &H and &O numbers.
+// The numeric value at the start of a text, as the suite's desktop database's Val() reads it:
+// blanks anywhere are skipped, a sign, digits, one decimal point and an exponent are taken, the
+// rest is ignored. "12abc" is 12, "" and "abc" are 0, "-3.5e2" is -350. Also &H and &O numbers.
 double ValJet(QStringView texto);

@@ -5,7 +5,7 @@
 
 // Colours as the suite stores them: a whole number with red in the lowest byte, then green,
 // then blue (16777215 is white, 65280 pure green). A value with the high bit set
-// (&H80000000 + n) names the desktop's system colour n, as the original forms allowed; it is
+// (&H80000000 + n) names the desktop's system colour n, as the suite's forms allow; it is
 // taken from the application's palette.
 QColor ColorDesdeValor(qint64 valor);
 qint64 ValorDeColor(const QColor& color);

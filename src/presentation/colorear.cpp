@@ -22,7 +22,7 @@ namespace {
 constexpr int kColumnasEsquema = 14;
 const QColor kBlanco = ColorDesdeValor(0xFFFFFF);
 
-// The original runtime's messages for a missing element and a non-numeric one.
+// The runtime's own messages for a missing element and a non-numeric one.
 const QString kFueraDeIntervalo = u"El subíndice está fuera del intervalo"_s;
 const QString kTiposDistintos = u"No coinciden los tipos"_s;
 

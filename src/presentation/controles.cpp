@@ -25,7 +25,7 @@ bool EsInterno(const QWidget* w) {
   return w->objectName().startsWith(u"qt_"_s);
 }
 
-// The widgets whose children are controls of the form, like the original frames, picture
+// The widgets whose children are controls of the form, like frames, picture
 // panels and tab pages; any other widget is one control as a whole.
 bool EsContenedor(const QWidget* w) {
   if (qobject_cast<const QGroupBox*>(w))

@@ -18,7 +18,7 @@ void CerrarPrograma(Entorno& entorno, const QString& nombreProceso);
 // The installation's program type (opciones.tipo_programa); empty when there is no row, and on a
 // database failure, which is logged ("Utilidades  3").
 QString LeerTipoPrograma(Entorno& entorno);
-// The length of the name of the first file that matches the path; 0 when none. As the original
+// The length of the name of the first file that matches the path; 0 when none. As the system
 // directory listing does: the name may hold the wildcards * and ?, letter case is ignored,
 // folders are never a match, and a path that ends with a separator lists that folder, so the
 // length of its first file name (in name order) is returned. '\' is taken as the separator. An

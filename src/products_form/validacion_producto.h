@@ -10,7 +10,7 @@ class ServicioDialogos;
 //  - blanks and tabs around the text are ignored; the empty text is not numeric;
 //  - an optional sign (+ or -) in front;
 //  - digits, with the thousands separator allowed anywhere after the first digit and before the
-//    decimal separator (the original test is that lax: "1.2.3" is numeric in Spain, and is 123);
+//    decimal separator (the suite's test is that lax: "1.2.3" is numeric in Spain, and is 123);
 //  - one decimal separator; digits may stand on either side ("5," and ",5" are numeric);
 //  - an exponent E or D with an optional sign and at least one digit ("1e3" and "1D3" are 1000);
 //  - hexadecimal &H1F and octal &O17 whole numbers;

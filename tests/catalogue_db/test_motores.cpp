@@ -78,7 +78,7 @@ QStringList ValoresDe(Conexion& c, const QString& consulta, const QString& campo
 
 }  // namespace
 
-// The program's statements and the original engine's semantics on every driver.
+// The program's statements and the suite's desktop database semantics on every driver.
 class TestMotores : public QObject {
   Q_OBJECT
 
@@ -88,8 +88,8 @@ class TestMotores : public QObject {
 
   void catalogoDeSentencias_data() { MotoresPrueba::agregarFilas(); }
   void catalogoDeSentencias();
-  void semanticaDelMotorOriginal_data() { MotoresPrueba::agregarFilas(); }
-  void semanticaDelMotorOriginal();
+  void semanticaDelMotorDeLaSuite_data() { MotoresPrueba::agregarFilas(); }
+  void semanticaDelMotorDeLaSuite();
   void valComoJet_data() { MotoresPrueba::agregarFilas(); }
   void valComoJet();
   void segundaSentenciaRechazada_data() { MotoresPrueba::agregarFilas(); }
@@ -156,7 +156,7 @@ void TestMotores::catalogoDeSentencias() {
   QVERIFY(filas[0][5].isNull());
 }
 
-void TestMotores::semanticaDelMotorOriginal() {
+void TestMotores::semanticaDelMotorDeLaSuite() {
   QFETCH(QString, motor);
   Conexion c;
   ABRIR_NUEVA(*motores_, c, motor, TodasLasTablas());
@@ -168,8 +168,8 @@ void TestMotores::semanticaDelMotorOriginal() {
   // Codes sort by their numeric value: "10" after "9", so the next code is 11.
   QCOMPARE(ValoresDe(c, u"select codigo from productos order by val(codigo)"_s, u"codigo"_s),
            (QStringList{u"1"_s, u"2"_s, u"3"_s, u"5"_s, u"6"_s, u"9"_s, u"10"_s}));
-  // NULL sorts lowest, as on the original engine: the last orden and first descnumerica are
-  // the largest ones, whatever the engine.
+  // NULL sorts lowest, as on the suite's desktop database: the last orden and first descnumerica
+  // are the largest ones, whatever the engine.
   QCOMPARE(
       ValoresDe(c, u"Select orden from productos where borrar = 0 order by orden"_s, u"orden"_s),
       (QStringList{u"NULL"_s, u"NULL"_s, u"NULL"_s, u"1"_s, u"2"_s, u"5"_s, u"6"_s}));
@@ -218,7 +218,7 @@ void TestMotores::semanticaDelMotorOriginal() {
                            Recordset(c, u"Select * from traducciones where caption = 'l'agua'"_s));
 }
 
-// val() reads numbers as the original engine does (SQLite: a function of the connection;
+// val() reads numbers as the suite's desktop database does (SQLite: a function of the connection;
 // through ODBC: a cast; PostgreSQL: a function of the schema).
 void TestMotores::valComoJet() {
   QFETCH(QString, motor);

@@ -77,7 +77,7 @@ void TestOdbc::postgresPorOdbc() {
   c.ejecutar(u"insert into productos (codigo, borrar) values ('2', 0)"_s);
   Recordset rs(c, u"Select orden from productos where borrar = false order by orden"_s);
   rs.moveLast();
-  QCOMPARE(rs.field(u"orden"_s).toInt(), 3);  // NULL first, as on the original engine
+  QCOMPARE(rs.field(u"orden"_s).toInt(), 3);  // NULL first, as on the suite's desktop database
 
   const QString nombre = u"sin_llaves"_s;
   {

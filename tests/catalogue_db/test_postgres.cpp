@@ -80,7 +80,7 @@ void TestPostgres::esquemaConCitextYVal() {
   QCOMPARE(rs.recordCount(), 1);
   QCOMPARE(rs.field(u"MargenComercial"_s).toDouble(), 1.5);
 
-  // The schema's val() gives what the original engine gives on the measured cases.
+  // The schema's val() gives what the suite's desktop database gives on the measured cases.
   filas = FilasDe(c, u"select val(' 12abc'), val(''), val('abc'), val('-3.5e2'), val(null)"_s);
   QCOMPARE(filas[0][0].toDouble(), 12.0);
   QCOMPARE(filas[0][1].toDouble(), 0.0);

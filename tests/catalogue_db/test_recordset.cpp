@@ -177,7 +177,7 @@ void TestRecordset::altaCambioYBorrado() {
     rs.cancelUpdate();
     QCOMPARE(rs.field(u"nombre"_s).toString(), u"Caña doble"_s);
 
-    // A pending change is saved by the next move, as the original recordsets do.
+    // A pending change is saved by the next move, as the suite's recordsets always have.
     rs.setField(u"descripcion"_s, u"de barril"_s);
     rs.moveFirst();
   }
