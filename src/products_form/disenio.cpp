@@ -13,6 +13,7 @@
 #include <QStyleFactory>
 
 #include "colorear.h"
+#include "panel_obj_nuevo.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -162,4 +163,37 @@ void AgrandarMarcas(QWidget* formulario) {
     if (qobject_cast<QCheckBox*>(b) || qobject_cast<QRadioButton*>(b))
       b->setStyle(estilo);
   }
+}
+
+ColumnaBotonCaja CrearColumnaBotonCaja(QWidget* m, const QStringList& n) {
+  constexpr int x = 700;
+  constexpr int ancho = 316;
+  constexpr int alto = disenio::kAltoToque;
+  ColumnaBotonCaja c;
+  c.lblFamilia = CrearEtiqueta(m, n.at(0), u"Familia"_s, QRect(x, 8, 80, 36));
+  c.nombreFamilia = CrearDato(m, n.at(1), u"<Nombre de la Familia>"_s, QRect(x + 84, 8, 232, 36));
+  c.nombreFamilia->setProperty("codigo", u"-1"_s);
+  c.panel = new PanelObjNuevo(m);
+  c.panel->setObjectName(n.at(2));
+  c.panel->setGeometry(x, 48, ancho, 212);
+
+  c.imagen = CrearImagen(m, n.at(3), QRect(x, 268, 150, 100));
+  c.insertar = CrearEtiqueta(m, n.at(4), u"Insertar imagen"_s, QRect(x, 370, 150, 28));
+  c.insertar->setAlignment(Qt::AlignCenter);
+  c.color = CrearImagen(m, n.at(5), QRect(x + 166, 268, 150, 64));
+  c.lblColor =
+      CrearEtiqueta(m, n.at(6), u"Toque para elegir el color"_s, QRect(x + 166, 334, 150, 64));
+  c.lblColor->setWordWrap(true);
+  c.lblColor->setAlignment(Qt::AlignCenter);
+
+  c.lblDescNumerica = CrearEtiqueta(m, n.at(7), u"Desc. numérica"_s, QRect(x, 404, 150, alto));
+  c.descNumerica = CrearCampo(m, n.at(8), QRect(x + 156, 404, 160, alto));
+  c.descNumerica->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  c.lblPosicion = CrearEtiqueta(m, n.at(9), u"Posición"_s, QRect(x, 454, 100, alto));
+  c.anterior = CrearBoton(m, n.at(10), QString(QChar(0x25C0)), QRect(x + 104, 454, 60, alto));
+  c.posicion = CrearDato(m, n.at(11), u"0"_s, QRect(x + 168, 454, 84, alto));
+  c.posicion->setAlignment(Qt::AlignCenter);
+  c.posicion->setFrameShape(QFrame::Box);
+  c.siguiente = CrearBoton(m, n.at(12), QString(QChar(0x25B6)), QRect(x + 256, 454, 60, alto));
+  return c;
 }

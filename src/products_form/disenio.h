@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QString>
+#include <QStringList>
 #include <initializer_list>
 
 class QCheckBox;
@@ -14,6 +15,7 @@ class QListWidget;
 class QPushButton;
 class QRadioButton;
 class QWidget;
+class PanelObjNuevo;
 
 // The form is drawn for a 1024×768 screen, in pixels of that design; the form adjustment scales
 // it to the terminal's screen. Everything a finger must hit is at least kAltoToque high and
@@ -62,3 +64,25 @@ void AgruparOpciones(std::initializer_list<QRadioButton*> opciones);
 void DesmarcarOpcion(QRadioButton* opcion);
 // Gives the check and option buttons of a form marks as large as a fingertip can tell apart.
 void AgrandarMarcas(QWidget* formulario);
+
+// The column of a product screen that sets up the product's button on the till: its family and
+// the families panel, its picture, its colour, its numeric description and its position. Both
+// product screens have one, laid out alike under their own control names.
+struct ColumnaBotonCaja {
+  QLabel* lblFamilia = nullptr;
+  QLabel* nombreFamilia = nullptr;  // carries the family code in its property "codigo"
+  PanelObjNuevo* panel = nullptr;
+  QLabel* imagen = nullptr;
+  QLabel* insertar = nullptr;
+  QLabel* color = nullptr;
+  QLabel* lblColor = nullptr;
+  QLabel* lblDescNumerica = nullptr;
+  QLineEdit* descNumerica = nullptr;
+  QLabel* lblPosicion = nullptr;
+  QPushButton* anterior = nullptr;
+  QLabel* posicion = nullptr;
+  QPushButton* siguiente = nullptr;
+};
+
+// The control names of a column, in the order of the fields of ColumnaBotonCaja.
+ColumnaBotonCaja CrearColumnaBotonCaja(QWidget* padre, const QStringList& nombres);

@@ -91,38 +91,25 @@ void CrearListas(PantallaElaborados& p, QWidget* m) {
 }
 
 void CrearBotonCaja(PantallaElaborados& p, QWidget* m) {
-  const int x = kColumnaX;
-  p.lbl_FamiliaElab = CrearEtiqueta(m, u"lbl_FamiliaElab"_s, u"Familia"_s, QRect(x, 8, 80, 36));
-  p.lblNomFamilia_elab =
-      CrearDato(m, u"lblNomFamilia_elab"_s, u"<Nombre de la Familia>"_s, QRect(x + 84, 8, 232, 36));
-  p.lblNomFamilia_elab->setProperty("codigo", u"-1"_s);
-  p.PanelFamilias_Elab = new PanelObjNuevo(m);
-  p.PanelFamilias_Elab->setObjectName(u"PanelFamilias_Elab"_s);
-  p.PanelFamilias_Elab->setGeometry(x, 48, kColumnaAncho, 212);
-
-  p.pic_ProductoElaborado = CrearImagen(m, u"pic_ProductoElaborado"_s, QRect(x, 268, 150, 100));
-  p.lbl_InsertarElab =
-      CrearEtiqueta(m, u"lbl_InsertarElab"_s, u"Insertar imagen"_s, QRect(x, 370, 150, 28));
-  p.lbl_InsertarElab->setAlignment(Qt::AlignCenter);
-  p.pic_Color = CrearImagen(m, u"pic_Color"_s, QRect(x + 166, 268, 150, 64));
-  p.lbl_colorElab = CrearEtiqueta(m, u"lbl_colorElab"_s, u"Toque para elegir el color"_s,
-                                  QRect(x + 166, 334, 150, 64));
-  p.lbl_colorElab->setWordWrap(true);
-  p.lbl_colorElab->setAlignment(Qt::AlignCenter);
-
-  p.lbl_DescNumElab =
-      CrearEtiqueta(m, u"lbl_DescNumElab"_s, u"Desc. numérica"_s, QRect(x, 404, 150, kAlto));
-  p.txtDescNumerica = CrearCampo(m, u"txtDescNumerica"_s, QRect(x + 156, 404, 160, kAlto));
-  p.txtDescNumerica->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  p.lbl_PosElab = CrearEtiqueta(m, u"lbl_PosElab"_s, u"Posición"_s, QRect(x, 454, 100, kAlto));
-  p.bt_antpelab =
-      CrearBoton(m, u"bt_antpelab"_s, QString(QChar(0x25C0)), QRect(x + 104, 454, 60, kAlto));
-  p.lblpospelab = CrearDato(m, u"lblpospelab"_s, u"0"_s, QRect(x + 168, 454, 84, kAlto));
-  p.lblpospelab->setAlignment(Qt::AlignCenter);
-  p.lblpospelab->setFrameShape(QFrame::Box);
-  p.bt_sigpelab =
-      CrearBoton(m, u"bt_sigpelab"_s, QString(QChar(0x25B6)), QRect(x + 256, 454, 60, kAlto));
-  p.Command4 = CrearBoton(m, u"Command4"_s, u"Subproductos"_s, QRect(x, 568, 316, kAlto));
+  const ColumnaBotonCaja c = CrearColumnaBotonCaja(
+      m, {u"lbl_FamiliaElab"_s, u"lblNomFamilia_elab"_s, u"PanelFamilias_Elab"_s,
+          u"pic_ProductoElaborado"_s, u"lbl_InsertarElab"_s, u"pic_Color"_s, u"lbl_colorElab"_s,
+          u"lbl_DescNumElab"_s, u"txtDescNumerica"_s, u"lbl_PosElab"_s, u"bt_antpelab"_s,
+          u"lblpospelab"_s, u"bt_sigpelab"_s});
+  p.lbl_FamiliaElab = c.lblFamilia;
+  p.lblNomFamilia_elab = c.nombreFamilia;
+  p.PanelFamilias_Elab = c.panel;
+  p.pic_ProductoElaborado = c.imagen;
+  p.lbl_InsertarElab = c.insertar;
+  p.pic_Color = c.color;
+  p.lbl_colorElab = c.lblColor;
+  p.lbl_DescNumElab = c.lblDescNumerica;
+  p.txtDescNumerica = c.descNumerica;
+  p.lbl_PosElab = c.lblPosicion;
+  p.bt_antpelab = c.anterior;
+  p.lblpospelab = c.posicion;
+  p.bt_sigpelab = c.siguiente;
+  p.Command4 = CrearBoton(m, u"Command4"_s, u"Subproductos"_s, QRect(kColumnaX, 568, 316, kAlto));
 }
 
 void CrearOrdenes(PantallaElaborados& p, QWidget* m) {

@@ -96,36 +96,24 @@ void CrearServicio(PantallaGenerico& p, QWidget* m) {
 }
 
 void CrearBotonCaja(PantallaGenerico& p, QWidget* m) {
-  const int x = kColumnaX;
-  p.lbl_Familia = CrearEtiqueta(m, u"lbl_Familia"_s, u"Familia"_s, QRect(x, 8, 80, 36));
-  p.lblnomFamilia =
-      CrearDato(m, u"lblnomFamilia"_s, u"<Nombre de la Familia>"_s, QRect(x + 84, 8, 232, 36));
-  p.lblnomFamilia->setProperty("codigo", u"-1"_s);
-  p.PanelFamilias = new PanelObjNuevo(m);
-  p.PanelFamilias->setObjectName(u"PanelFamilias"_s);
-  p.PanelFamilias->setGeometry(x, 48, kColumnaAncho, 212);
-
-  p.pict_imagen = CrearImagen(m, u"pict_imagen"_s, QRect(x, 268, 150, 100));
-  p.lbl_Insertar =
-      CrearEtiqueta(m, u"lbl_Insertar"_s, u"Insertar imagen"_s, QRect(x, 370, 150, 28));
-  p.lbl_Insertar->setAlignment(Qt::AlignCenter);
-  p.pic_ColorPG = CrearImagen(m, u"pic_ColorPG"_s, QRect(x + 166, 268, 150, 64));
-  p.lbl_color = CrearEtiqueta(m, u"lbl_color"_s, u"Toque para elegir el color"_s,
-                              QRect(x + 166, 334, 150, 64));
-  p.lbl_color->setWordWrap(true);
-  p.lbl_color->setAlignment(Qt::AlignCenter);
-
-  p.Label14 = CrearEtiqueta(m, u"Label14"_s, u"Desc. numérica"_s, QRect(x, 404, 150, kAlto));
-  p.txtDescNumericaPGen = CrearCampo(m, u"txtDescNumericaPGen"_s, QRect(x + 156, 404, 160, kAlto));
-  p.txtDescNumericaPGen->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  p.Lbl_Posicion = CrearEtiqueta(m, u"Lbl_Posicion"_s, u"Posición"_s, QRect(x, 454, 100, kAlto));
-  p.bt_botonAnt =
-      CrearBoton(m, u"bt_botonAnt"_s, QString(QChar(0x25C0)), QRect(x + 104, 454, 60, kAlto));
-  p.lblPos = CrearDato(m, u"lblPos"_s, u"0"_s, QRect(x + 168, 454, 84, kAlto));
-  p.lblPos->setAlignment(Qt::AlignCenter);
-  p.lblPos->setFrameShape(QFrame::Box);
-  p.bt_botonSig =
-      CrearBoton(m, u"bt_botonSig"_s, QString(QChar(0x25B6)), QRect(x + 256, 454, 60, kAlto));
+  const ColumnaBotonCaja c = CrearColumnaBotonCaja(
+      m,
+      {u"lbl_Familia"_s, u"lblnomFamilia"_s, u"PanelFamilias"_s, u"pict_imagen"_s,
+       u"lbl_Insertar"_s, u"pic_ColorPG"_s, u"lbl_color"_s, u"Label14"_s, u"txtDescNumericaPGen"_s,
+       u"Lbl_Posicion"_s, u"bt_botonAnt"_s, u"lblPos"_s, u"bt_botonSig"_s});
+  p.lbl_Familia = c.lblFamilia;
+  p.lblnomFamilia = c.nombreFamilia;
+  p.PanelFamilias = c.panel;
+  p.pict_imagen = c.imagen;
+  p.lbl_Insertar = c.insertar;
+  p.pic_ColorPG = c.color;
+  p.lbl_color = c.lblColor;
+  p.Label14 = c.lblDescNumerica;
+  p.txtDescNumericaPGen = c.descNumerica;
+  p.Lbl_Posicion = c.lblPosicion;
+  p.bt_botonAnt = c.anterior;
+  p.lblPos = c.posicion;
+  p.bt_botonSig = c.siguiente;
 }
 
 void CrearOrdenes(PantallaGenerico& p, QWidget* m) {
