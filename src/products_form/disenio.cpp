@@ -197,3 +197,21 @@ ColumnaBotonCaja CrearColumnaBotonCaja(QWidget* m, const QStringList& n) {
   c.siguiente = CrearBoton(m, n.at(12), QString(QChar(0x25B6)), QRect(x + 256, 454, 60, alto));
   return c;
 }
+
+AvisosPantalla CrearAvisosPantalla(QWidget* m, const QStringList& n) {
+  AvisosPantalla a;
+  a.marcoNombre = CrearMarco(m, n.at(0), QString(), QRect(144, 58, 548, 96));
+  a.nombre = CrearEtiqueta(a.marcoNombre, n.at(1),
+                           u"La descripción corta ya existe, por favor introduzca otra."_s,
+                           QRect(12, 8, 524, 80));
+  a.nombre->setWordWrap(true);
+  PonerLetra(a.nombre, disenio::kLetraTitulo, true);
+
+  a.marcoNumero = CrearMarco(m, n.at(2), QString(), QRect(700, 300, 316, 100));
+  a.numero = CrearEtiqueta(a.marcoNumero, n.at(3),
+                           u"La descripción numérica ya existe, por favor introduzca otra."_s,
+                           QRect(10, 6, 296, 88));
+  a.numero->setWordWrap(true);
+  PonerLetra(a.numero, disenio::kLetra, true);
+  return a;
+}

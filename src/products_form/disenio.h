@@ -86,3 +86,15 @@ struct ColumnaBotonCaja {
 
 // The control names of a column, in the order of the fields of ColumnaBotonCaja.
 ColumnaBotonCaja CrearColumnaBotonCaja(QWidget* padre, const QStringList& nombres);
+
+// The two hints of a product screen: the name already in use, over the fields under the name,
+// and the numeric description in use or missing, over the till-button column.
+struct AvisosPantalla {
+  QGroupBox* marcoNombre = nullptr;
+  QLabel* nombre = nullptr;
+  QGroupBox* marcoNumero = nullptr;
+  QLabel* numero = nullptr;
+};
+
+// The control names in the order of the fields of AvisosPantalla.
+AvisosPantalla CrearAvisosPantalla(QWidget* padre, const QStringList& nombres);

@@ -132,21 +132,13 @@ void CrearOrdenes(PantallaElaborados& p, QWidget* m) {
 }
 
 void CrearAvisos(PantallaElaborados& p, QWidget* m) {
-  p.fr_mensajeNombrePElab =
-      CrearMarco(m, u"fr_mensajeNombrePElab"_s, QString(), QRect(kCampoX, Fila(1), 548, 96));
-  p.lblMensNombrePElab = CrearEtiqueta(
-      p.fr_mensajeNombrePElab, u"lblMensNombrePElab"_s,
-      u"La descripción corta ya existe, por favor introduzca otra."_s, QRect(12, 8, 524, 80));
-  p.lblMensNombrePElab->setWordWrap(true);
-  PonerLetra(p.lblMensNombrePElab, disenio::kLetraTitulo, true);
-
-  p.fr_mensajeNumeroPElab = CrearMarco(m, u"fr_mensajeNumeroPElab"_s, QString(),
-                                       QRect(kColumnaX, 300, kColumnaAncho, 100));
-  p.lblDescNumPElab = CrearEtiqueta(
-      p.fr_mensajeNumeroPElab, u"lblDescNumPElab"_s,
-      u"La descripción numérica ya existe, por favor introduzca otra."_s, QRect(10, 6, 296, 88));
-  p.lblDescNumPElab->setWordWrap(true);
-  PonerLetra(p.lblDescNumPElab, disenio::kLetra, true);
+  const AvisosPantalla a =
+      CrearAvisosPantalla(m, {u"fr_mensajeNombrePElab"_s, u"lblMensNombrePElab"_s,
+                              u"fr_mensajeNumeroPElab"_s, u"lblDescNumPElab"_s});
+  p.fr_mensajeNombrePElab = a.marcoNombre;
+  p.lblMensNombrePElab = a.nombre;
+  p.fr_mensajeNumeroPElab = a.marcoNumero;
+  p.lblDescNumPElab = a.numero;
 }
 
 }  // namespace

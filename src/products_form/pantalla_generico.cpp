@@ -146,23 +146,13 @@ void CrearOrdenes(PantallaGenerico& p, QWidget* m) {
 }
 
 void CrearAvisos(PantallaGenerico& p, QWidget* m) {
-  // Placed over the second and third steps, where the name was typed: what the hint says is
-  // about the name just above it.
-  p.fr_MensajeNombre =
-      CrearMarco(m, u"fr_MensajeNombre"_s, QString(), QRect(kCampoX, Fila(1), 548, 96));
-  p.lblMensNombre = CrearEtiqueta(p.fr_MensajeNombre, u"lblMensNombre"_s,
-                                  u"La descripción corta ya existe, por favor introduzca otra."_s,
-                                  QRect(12, 8, 524, 80));
-  p.lblMensNombre->setWordWrap(true);
-  PonerLetra(p.lblMensNombre, disenio::kLetraTitulo, true);
-
-  p.fr_Mensajenumero =
-      CrearMarco(m, u"fr_Mensajenumero"_s, QString(), QRect(kColumnaX, 300, kColumnaAncho, 100));
-  p.lblMensajeNumero = CrearEtiqueta(
-      p.fr_Mensajenumero, u"lblMensajeNumero"_s,
-      u"La descripción numérica ya existe, por favor introduzca otra."_s, QRect(10, 6, 296, 88));
-  p.lblMensajeNumero->setWordWrap(true);
-  PonerLetra(p.lblMensajeNumero, disenio::kLetra, true);
+  // The name hint lies over the second and third steps, just under the name it speaks of.
+  const AvisosPantalla a = CrearAvisosPantalla(
+      m, {u"fr_MensajeNombre"_s, u"lblMensNombre"_s, u"fr_Mensajenumero"_s, u"lblMensajeNumero"_s});
+  p.fr_MensajeNombre = a.marcoNombre;
+  p.lblMensNombre = a.nombre;
+  p.fr_Mensajenumero = a.marcoNumero;
+  p.lblMensajeNumero = a.numero;
 }
 
 }  // namespace
