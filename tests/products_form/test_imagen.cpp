@@ -6,36 +6,10 @@
 #include <QtTest>
 
 #include "imagen_producto.h"
+#include "imagen_prueba.h"
 #include "instalacion_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-// A real picture padded to an exact size in bytes (the reader ignores what follows the
-// picture's end).
-QString Imagen(const QString& carpeta, const QString& nombre, qint64 bytes, QRgb color) {
-  QImage imagen(16, 16, QImage::Format_RGB32);
-  imagen.fill(color);
-  QByteArray datos;
-  QBuffer buffer(&datos);
-  buffer.open(QIODevice::WriteOnly);
-  imagen.save(&buffer, "PNG");
-  datos.append(QByteArray(bytes - datos.size(), '\0'));
-  QDir().mkpath(carpeta);
-  const QString ruta = QDir(carpeta).filePath(nombre);
-  QFile f(ruta);
-  f.open(QIODevice::WriteOnly);
-  f.write(datos);
-  return ruta;
-}
-
-QByteArray Contenido(const QString& ruta) {
-  QFile f(ruta);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-}  // namespace
 
 class TestImagen : public QObject {
   Q_OBJECT

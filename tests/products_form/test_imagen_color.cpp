@@ -14,33 +14,11 @@
 #include "color_vb.h"
 #include "colorear.h"
 #include "formulario_prueba.h"
+#include "imagen_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// A real picture of one colour padded to an exact size in bytes (readers ignore what follows
-// the picture's end).
-QString Imagen(const QString& carpeta, const QString& nombre, qint64 bytes, const QColor& color) {
-  QImage imagen(16, 16, QImage::Format_RGB32);
-  imagen.fill(color);
-  QByteArray datos;
-  QBuffer buffer(&datos);
-  buffer.open(QIODevice::WriteOnly);
-  imagen.save(&buffer, "PNG");
-  datos.append(QByteArray(bytes - datos.size(), '\0'));
-  QDir().mkpath(carpeta);
-  const QString ruta = QDir(carpeta).filePath(nombre);
-  QFile f(ruta);
-  f.open(QIODevice::WriteOnly);
-  f.write(datos);
-  return ruta;
-}
-
-QByteArray Contenido(const QString& ruta) {
-  QFile f(ruta);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 // The colour in the middle of the picture a box shows.
 QColor ColorMostrado(const QLabel* caja) {
