@@ -6,12 +6,14 @@
 
 #include "alta_producto.h"
 #include "atajos_teclado.h"
+#include "buscar.h"
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
 #include "entorno.h"
 #include "eventos_campos.h"
 #include "filtro_teclas.h"
+#include "frm_add_subproductos.h"
 #include "imagen_color.h"
 #include "importes.h"
 #include "lista_productos_form.h"
@@ -94,6 +96,18 @@ void FrmProductos1024::conectar() {
   auto* componentes = new ListasComponentes(entorno_, controles_, this);
   componentes->conectar(*modos_);
   new AtajosTeclado(this);
+  conectarDialogos();
+}
+
+void FrmProductos1024::conectarDialogos() {
+  connect(controles_.gen.cmd_buscar, &QPushButton::clicked, this, [this] {
+    AbrirBuscar(
+        entorno_, kModoProductos, [this](const QString& c) { ProductoBuscado(c); }, this);
+  });
+  for (QPushButton* subproductos : {controles_.gen.Command1, controles_.elab.Command4}) {
+    connect(subproductos, &QPushButton::clicked, this,
+            [this] { AbrirSubproductos(entorno_, tablas_, this); });
+  }
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {
