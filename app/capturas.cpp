@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QPainter>
 #include <QPixmap>
 #include <QWidget>
 
@@ -15,10 +16,33 @@ struct Paso {
   QString archivo;
 };
 
+// A button by its name, in the dialog open over the form first; "panel/boton" names a button
+// inside a named control.
 void Pulsar(QWidget* formulario, const QString& nombre) {
-  if (auto* b = formulario->findChild<QAbstractButton*>(nombre); b && b->isEnabled())
+  QWidget* donde =
+      QApplication::activeModalWidget() ? QApplication::activeModalWidget() : formulario;
+  for (const QString& parte : nombre.split(u'/')) {
+    if (donde)
+      donde = donde->findChild<QWidget*>(parte);
+  }
+  if (auto* b = qobject_cast<QAbstractButton*>(donde); b && b->isEnabled())
     b->click();
   QApplication::processEvents();
+}
+
+// The form's window with the dialog open over it, where it stands.
+QPixmap Captura(QWidget* formulario) {
+  QWidget* ventana = formulario->window();
+  QPixmap imagen = ventana->grab();
+  if (QWidget* dialogo = QApplication::activeModalWidget(); dialogo && dialogo != ventana) {
+    QPainter pintor(&imagen);
+    const QRect donde(dialogo->pos() - ventana->pos(), dialogo->size());
+    pintor.drawPixmap(donde.topLeft(), dialogo->grab());
+    // Where the window manager would draw the dialog's border.
+    pintor.setPen(QPen(Qt::darkGray, 2));
+    pintor.drawRect(donde.adjusted(-1, -1, 0, 0));
+  }
+  return imagen;
 }
 
 }  // namespace
@@ -34,6 +58,20 @@ int GuardarCapturas(QWidget* formulario, const QString& carpeta) {
       {u"cmd_cancelar"_s, {}},
       {u"cmd_salir"_s, {}},
       {u"cmd_ProdElaborado"_s, u"06-elaborados.png"_s},
+      {u"cmd_SalirProdEla"_s, {}},
+      {u"cmd_ProdGenerico"_s, {}},
+      // The search: "ca" typed on its keyboard, searched, then closed with no choice.
+      {u"cmd_buscar"_s, {}},
+      {u"bt_letra_67"_s, {}},
+      {u"bt_letra_65"_s, {}},
+      {u"BtnBusClie_0"_s, u"07-buscar.png"_s},
+      {u"BtnBusClie_2"_s, {}},
+      // The sub-products: a parent touched, then two products of its family added.
+      {u"Command1"_s, {}},
+      {u"PanelPrimeros/boton_1"_s, {}},
+      {u"PanelPrimeros/boton_2"_s, {}},
+      {u"PanelPrimeros/boton_3"_s, u"08-subproductos.png"_s},
+      {u"cmd_CancelarFin"_s, {}},
   };
   QDir().mkpath(carpeta);
   int escritas = 0;
@@ -42,9 +80,7 @@ int GuardarCapturas(QWidget* formulario, const QString& carpeta) {
       Pulsar(formulario, paso.boton);
     if (paso.archivo.isEmpty())
       continue;
-    QWidget* ventana = QApplication::activeModalWidget() ? QApplication::activeModalWidget()
-                                                         : formulario->window();
-    if (ventana->grab().save(QDir(carpeta).filePath(paso.archivo)))
+    if (Captura(formulario).save(QDir(carpeta).filePath(paso.archivo)))
       ++escritas;
   }
   return escritas;

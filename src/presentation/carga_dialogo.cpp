@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 QPoint posicionar(const QRect& llamador, QSize dialogo, const QRect& pantalla) {
   int x = llamador.x() + (llamador.width() - dialogo.width()) / 2;
-  int y = llamador.y();
+  int y = llamador.y() + llamador.height() - dialogo.height() - kAltoTituloVentana;
   x = qMax(pantalla.left(), qMin(x, pantalla.x() + pantalla.width() - dialogo.width()));
   y = qMax(pantalla.top(),
            qMin(y, pantalla.y() + pantalla.height() - dialogo.height() - kAltoTituloVentana));

@@ -15,7 +15,8 @@ class QWidget;
 inline constexpr int kAltoTituloVentana = 32;
 
 // Where a dialog opened from a form goes: over its caller, centred across it and level with its
-// top, then moved inside the screen's free area (title bar included) when it would stand out.
+// bottom, where the form's own keyboard lies (a dialog's keyboard then takes its place), then
+// moved inside the screen's free area (title bar included) when it would stand out.
 QPoint posicionar(const QRect& llamador, QSize dialogo, const QRect& pantalla);
 
 // What a dialog of the products form runs at its load, as the form itself does: the colour

@@ -91,6 +91,7 @@ void Buscar::construir() {
     connect(tecla, &QPushButton::clicked, this, [this, codigo] { pulsar(codigo); });
   }
   setFixedSize(kAncho, kYTeclado + teclado.fr_teclado->height());
+  AgrandarMarcas(this);
 
   // Enter on a real keyboard searches; no other button answers it.
   for (QPushButton* b : findChildren<QPushButton*>())

@@ -37,8 +37,6 @@ constexpr int kAnchoDerecha = kAncho - kXDerecha - kMargen;
 constexpr int kLadoImagen = 2 * kToque;
 constexpr int kYBotones = kAlto - kMargen - kToque;
 constexpr int kAnchoBotonFin = (kAnchoDerecha - 2 * 4) / 3;
-// The name column leaves the room of a scroll bar.
-constexpr int kHuecoBarra = 20;
 
 }  // namespace
 
@@ -130,7 +128,8 @@ void FrmAddSubProductos::InicializarGrid() {
   gridProd_->setColumnCount(2);
   gridProd_->setRowCount(0);
   gridProd_->setHorizontalHeaderLabels({u"Lista de Productos"_s, u"codigo"_s});
-  gridProd_->setColumnWidth(0, gridProd_->width() - kHuecoBarra);
+  // The name column takes the grid's width less the room of a scroll bar when one shows.
+  gridProd_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   gridProd_->setColumnHidden(1, true);
   gridProd_->verticalHeader()->hide();
   gridProd_->verticalHeader()->setDefaultSectionSize(kToque);
