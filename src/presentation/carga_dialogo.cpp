@@ -23,7 +23,8 @@ QPoint posicionar(const QRect& llamador, QSize dialogo, const QRect& pantalla) {
   return {x, y};
 }
 
-void CargarDialogo(Entorno& entorno, QWidget* dialogo, const QWidget* llamador) {
+void CargarDialogo(Entorno& entorno, QWidget* dialogo, const QWidget* llamador,
+                   const QList<PanelObjNuevo*>& paneles) {
   const QString contexto = dialogo->objectName() + u"_Load"_s;
   const auto paso = [&](const std::function<void()>& accion) {
     try {
@@ -34,7 +35,11 @@ void CargarDialogo(Entorno& entorno, QWidget* dialogo, const QWidget* llamador) 
       entorno.RegistrarError(contexto, QString::fromLocal8Bit(e.what()));
     }
   };
-  paso([&] { Colorear(entorno).colorear(dialogo); });
+  paso([&] {
+    Colorear colorear(entorno);
+    colorear.colorear(dialogo);
+    ColorearPaneles(colorear, paneles);
+  });
   if (entorno.sesion.idioma != u"CASTELLANO"_s)
     paso([&] { TraducirFormulario(entorno, dialogo); });
   paso([&] { AjustarFormulario(entorno, dialogo, dialogo->size(), dialogo->size()); });

@@ -23,8 +23,10 @@ QPoint posicionar(const QRect& llamador, QSize dialogo, const QRect& pantalla);
 // scheme, the captions translated when the language is not the default, the adjustment that
 // gathers its captions (the dialogs are drawn to fit the smallest screen, 800×600, so they are
 // not rescaled) and its place over the caller on the caller's screen. A failing step is logged
-// with the dialog's name and "_Load", and the load goes on.
-void CargarDialogo(Entorno& entorno, QWidget* dialogo, const QWidget* llamador);
+// with the dialog's name and "_Load", and the load goes on. The dialog's paged button panels
+// take the scheme's zoom colours with the rest.
+void CargarDialogo(Entorno& entorno, QWidget* dialogo, const QWidget* llamador,
+                   const QList<PanelObjNuevo*>& paneles = {});
 
 // Paints the areas of paged button panels with the scheme's zoom colours, as the till's own
 // panels are painted.

@@ -9,7 +9,6 @@
 #include <QTableWidget>
 
 #include "carga_dialogo.h"
-#include "colorear.h"
 #include "disenio.h"
 #include "entorno.h"
 #include "error_bd.h"
@@ -46,7 +45,7 @@ FrmAddSubProductos::FrmAddSubProductos(Entorno& entorno, TablasPanel& tablas, QW
   setWindowTitle(kTituloSubproductos);
   construir();
   cargar();
-  CargarDialogo(entorno_, this, llamador);
+  CargarDialogo(entorno_, this, llamador, {PanelFamilias_, PanelPrimeros_});
 }
 
 void FrmAddSubProductos::construir() {
@@ -154,12 +153,6 @@ void FrmAddSubProductos::cargar() {
   PanelFamilias_->limpiar();
   PanelPrimeros_->limpiar();
   llenar(PanelFamilias_, tablas_.familias);
-  try {
-    Colorear colorear(entorno_);
-    ColorearPaneles(colorear, {PanelFamilias_, PanelPrimeros_});
-  } catch (const ErrorBD& e) {
-    entorno_.RegistrarError(kContextoPanelSubproductos, e.descripcion());
-  }
   InicializarGrid();
   if (!tablas_.familias.isEmpty()) {
     CargarPaneles(tablas_.familias.first().codigo);
