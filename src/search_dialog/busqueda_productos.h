@@ -23,9 +23,9 @@ inline const QString kContextoBuscarProducto = QStringLiteral("Buscar  1");
 // What the boxes hold: the starts of the supplier's, the family's and the product's names, and
 // whether only the products without a family are wanted.
 struct CriteriosBusqueda {
-  QString proveedor;
-  QString familia;
-  QString nombre;
+  QString proveedor{};
+  QString familia{};
+  QString nombre{};
   bool sinAsignar = false;
 };
 

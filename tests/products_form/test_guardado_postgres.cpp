@@ -46,7 +46,9 @@ QList<QVariantList> Filas(Conexion& c, const QString& consulta) {
 
 // An installation whose shared connection is on the test server's database.
 void UsarPostgres(InstalacionPrueba& inst, const OrigenDatos& origen) {
-  inst.usarOrigen(origen);
+  inst.entorno().instalacion.origenes.mapear(u"velandria"_s, origen);
+  inst.entorno().ConexionBD = std::make_unique<Conexion>();
+  inst.entorno().ConexionBD->abrir(kCadena, inst.entorno().instalacion.origenes);
   inst.entorno().sesion.tipo_programa = u"RESTAURANTE"_s;
 }
 

@@ -56,18 +56,14 @@ QString InstalacionPrueba::rutaInformes() const {
   return QDir(dir_.path()).filePath(u"informes.db"_s);
 }
 
-void InstalacionPrueba::usarOrigen(const OrigenDatos& origen) {
-  entorno_->instalacion.origenes.mapear(u"velandria"_s, origen);
-  entorno_->ConexionBD = std::make_unique<Conexion>();
-  entorno_->ConexionBD->abrir(u"dsn=velandria;pwd="_s + PostgresPrueba::clave() + u";"_s,
-                              entorno_->instalacion.origenes);
-}
-
 bool InstalacionPrueba::usarPostgres(PostgresPrueba& servidor, const QString& base) {
   const OrigenDatos origen = servidor.crearBaseDatos(base);
   if (origen.baseDatos.isEmpty())
     return false;
-  usarOrigen(origen);
+  entorno_->instalacion.origenes.mapear(u"velandria"_s, origen);
+  entorno_->ConexionBD = std::make_unique<Conexion>();
+  entorno_->ConexionBD->abrir(u"dsn=velandria;pwd="_s + PostgresPrueba::clave() + u";"_s,
+                              entorno_->instalacion.origenes);
   CrearEsquema(conexion(), TablasPrincipales());
   return true;
 }

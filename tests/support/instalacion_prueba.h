@@ -25,11 +25,9 @@ class InstalacionPrueba {
   QString rutaPrincipal() const;
   QString rutaInformes() const;
 
-  // Moves the shared connection to a database of another engine, as the data source
-  // "velandria" with the suite's password.
-  void usarOrigen(const OrigenDatos& origen);
-  // Moves it to a new database of the test server holding the main tables; false when the
-  // database cannot be made (the server's error() says why).
+  // Moves the shared connection to a new database of the test server, holding the main tables,
+  // as the data source "velandria"; false when the database cannot be made (the server's
+  // error() says why).
   bool usarPostgres(PostgresPrueba& servidor, const QString& base);
 
   // Runs statements of the test's own on the main database (several, one after another).
