@@ -7,6 +7,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include "carga_dialogo.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -38,9 +40,15 @@ QPixmap Captura(QWidget* formulario) {
     QPainter pintor(&imagen);
     const QRect donde(dialogo->pos() - ventana->pos(), dialogo->size());
     pintor.drawPixmap(donde.topLeft(), dialogo->grab());
-    // Where the window manager would draw the dialog's border.
+    // Where the window manager would draw the dialog's title bar and border.
+    const QRect titulo(donde.left(), donde.top() - kAltoTituloVentana, donde.width(),
+                       kAltoTituloVentana);
+    pintor.fillRect(titulo, Qt::darkGray);
+    pintor.setPen(Qt::white);
+    pintor.drawText(titulo.adjusted(12, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                    dialogo->windowTitle());
     pintor.setPen(QPen(Qt::darkGray, 2));
-    pintor.drawRect(donde.adjusted(-1, -1, 0, 0));
+    pintor.drawRect(donde.united(titulo).adjusted(-1, -1, 0, 0));
   }
   return imagen;
 }
