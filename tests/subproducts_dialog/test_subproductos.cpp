@@ -16,7 +16,7 @@ class TestSubproductos : public QObject {
  private slots:
   void idaYVuelta_data();
   void idaYVuelta();
-  void desdeElFormularioUnFalloConservaLosAnteriores();
+  void desdeElFormularioUnFalloConservaLosAnterioresYCerrarNoEscribe();
 };
 
 namespace {
@@ -103,7 +103,7 @@ void TestSubproductos::idaYVuelta() {
   delete d;
 }
 
-void TestSubproductos::desdeElFormularioUnFalloConservaLosAnteriores() {
+void TestSubproductos::desdeElFormularioUnFalloConservaLosAnterioresYCerrarNoEscribe() {
   FormularioPrueba f(Catalogo());
   QVERIFY(f.mostrar());
   QTest::mouseClick(f.control<QAbstractButton>(u"cmd_ProdElaborado"_s), Qt::LeftButton);
@@ -117,7 +117,6 @@ void TestSubproductos::desdeElFormularioUnFalloConservaLosAnteriores() {
   QCOMPARE(Enlaces(f.inst()), (QStringList{u"1>5"_s, u"9>1"_s}));
   QVERIFY(f.dialogos().mensajes().isEmpty());
   QVERIFY(f.inst().log().contains("SubProductos  2, Descripcion: "));
-  // Closing writes nothing.
   QTest::mouseClick(d->findChild<QAbstractButton*>(u"cmd_CancelarFin"_s), Qt::LeftButton);
   QTRY_VERIFY(!f.forma().findChild<FrmAddSubProductos*>());
   QCOMPARE(Enlaces(f.inst()), (QStringList{u"1>5"_s, u"9>1"_s}));
