@@ -6,6 +6,7 @@
 
 #include "alta_producto.h"
 #include "atajos_teclado.h"
+#include "campos_legibles.h"
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
@@ -18,6 +19,7 @@
 #include "listas_componentes.h"
 #include "marcos_auxiliares.h"
 #include "modos.h"
+#include "navegacion_teclado.h"
 #include "panel_familias.h"
 #include "panel_proveedores.h"
 #include "pantalla_elaborados.h"
@@ -94,6 +96,13 @@ void FrmProductos1024::conectar() {
   auto* componentes = new ListasComponentes(entorno_, controles_, this);
   componentes->conectar(*modos_);
   new AtajosTeclado(this);
+  navegacion_ = new NavegacionTeclado(controles_, this);
+  new CamposLegibles(controles_, this);
+}
+
+bool FrmProductos1024::focusNextPrevChild(bool siguiente) {
+  return (navegacion_ && navegacion_->moverFoco(siguiente)) ||
+         QWidget::focusNextPrevChild(siguiente);
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {

@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kAnchoBarra = 40;
+constexpr int kAnchoBarra = disenio::kAltoToque;
 
 class EstiloListaTactil : public QProxyStyle {
  public:
@@ -44,7 +44,7 @@ class FilaTactil : public QStyledItemDelegate {
 
 }  // namespace
 
-void HacerListaTactil(QListWidget* lista) {
+void HacerListaTactil(QAbstractItemView* lista) {
   auto* estilo = new EstiloListaTactil(QStyleFactory::create(lista->style()->name()));
   estilo->setParent(lista);
   lista->setStyle(estilo);
