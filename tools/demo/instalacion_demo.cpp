@@ -70,15 +70,17 @@ Para probar
 )"_s.arg(QDir::toNativeSeparators(o.carpeta), o.terminal);
 }
 
-// Builds every file of the installation in `obra`; the options row names `destino`'s pictures.
-void Construir(const QString& obra, const QString& destino, const OpcionesDemo& o) {
+// Builds every file of the installation in `obra`.
+void Construir(const QString& obra, const OpcionesDemo& o) {
   const QDir dir(obra);
   if (!dir.mkpath(u"fotos"_s) || !dir.mkpath(u"ayuda"_s)) {
     throw std::runtime_error("cannot create the folders of the installation");
   }
   EscribirFotos(dir.filePath(u"fotos"_s));
   EscribirAyuda(dir.filePath(u"ayuda"_s));
-  const QString rutaFotos = QDir(destino).filePath(u"fotos"_s) + QDir::separator();
+  // Relative to the installation's folder, so that a copied or moved installation keeps its
+  // pictures.
+  const QString rutaFotos = u"fotos"_s + QDir::separator();
   CrearBase(dir.filePath(kPrincipal), TablasPrincipales(),
             [&](Conexion& c) { LlenarBasePrincipal(c, rutaFotos, o.idioma); });
   CrearBase(dir.filePath(kInformes), TablasInformes(),
@@ -144,7 +146,7 @@ ResultadoDemo CrearInstalacionDemo(const OpcionesDemo& opciones) {
             u"No se puede escribir en la carpeta %1."_s.arg(QDir::toNativeSeparators(destino))};
   }
   try {
-    Construir(obra.path(), destino, opciones);
+    Construir(obra.path(), opciones);
   } catch (const ErrorBD& e) {
     return {false, u"No se ha podido crear la base de datos: %1"_s.arg(e.descripcion())};
   } catch (const std::exception& e) {
