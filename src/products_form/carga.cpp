@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
+#include <algorithm>
 #include <exception>
 #include <functional>
 
@@ -79,6 +80,24 @@ void colorearme(Entorno& entorno, EstadoFormulario& estado, ControlesFormulario&
   }
 }
 
+// The terminal's display options: the type size step for every text of the form, the
+// panels' buttons included, and the enlargement of the families panels' buttons. The panels
+// keep their place on the screen: it is their buttons that grow, so fewer fit a page.
+void AplicarOpcionesTerminal(Entorno& entorno, ControlesFormulario& c, QWidget* formulario) {
+  VariablesIniciales opciones(entorno);
+  const qint16 paso = opciones.Tipo_Letra();
+  AplicarTipoLetra(formulario, paso);
+  const qint32 aumentoX = std::max(0, opciones.Aumento_X());
+  const qint32 aumentoY = std::max(0, opciones.Aumento_Y());
+  for (PanelObjNuevo* panel : {c.gen.PanelFamilias, c.elab.PanelFamilias_Elab}) {
+    QFont letra = panel->boton_fuente();
+    letra.setPixelSize(qRound(letra.pixelSize() * FactorTipoLetra(paso)));
+    panel->set_boton_fuente(letra);
+    panel->set_ancho_boton(panel->ancho_boton() + static_cast<float>(aumentoX));
+    panel->set_alto_boton(panel->alto_boton() + static_cast<float>(aumentoY));
+  }
+}
+
 }  // namespace
 
 void ExcepcionesSegunPrograma(Entorno& entorno, PantallaGenerico& gen) {
@@ -125,6 +144,7 @@ void CargarFormulario(Entorno& entorno, EstadoFormulario& estado, ControlesFormu
   }
   Paso(entorno, [&] { ExcepcionesSegunPrograma(entorno, c.gen); });
   Paso(entorno, [&] { AjustarFormulario(entorno, formulario); });
+  Paso(entorno, [&] { AplicarOpcionesTerminal(entorno, c, formulario); });
   Paso(entorno, [&] { cargarimpresorasdisponibles(entorno, estado, c); });
   Paso(entorno, [&] {
     c.gen.cbo_Medida->clear();

@@ -146,6 +146,10 @@ class EstiloMarcasGrandes : public QProxyStyle {
       case PM_IndicatorHeight:
       case PM_ExclusiveIndicatorWidth:
       case PM_ExclusiveIndicatorHeight:
+        // As the type grows or shrinks with the screen and the terminal's type size, so does
+        // the mark, so that the caption beside it keeps its room.
+        if (control && control->font().pointSizeF() > 0)
+          return qRound(kLadoMarca * control->font().pointSizeF() / disenio::kLetra);
         return kLadoMarca;
       default:
         return QProxyStyle::pixelMetric(metrica, opcion, control);
