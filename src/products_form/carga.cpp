@@ -82,7 +82,8 @@ void colorearme(Entorno& entorno, EstadoFormulario& estado, ControlesFormulario&
 
 // The terminal's display options: the type size step for every text of the form, the
 // panels' buttons included, and the enlargement of the families panels' buttons. The panels
-// keep their place on the screen: it is their buttons that grow, so fewer fit a page.
+// keep their place on the screen: it is their buttons that grow, as far as the panel holds
+// them, so fewer fit a page.
 void AplicarOpcionesTerminal(Entorno& entorno, ControlesFormulario& c, QWidget* formulario) {
   VariablesIniciales opciones(entorno);
   const qint16 paso = opciones.Tipo_Letra();
@@ -93,8 +94,14 @@ void AplicarOpcionesTerminal(Entorno& entorno, ControlesFormulario& c, QWidget* 
     QFont letra = panel->boton_fuente();
     letra.setPixelSize(qRound(letra.pixelSize() * FactorTipoLetra(paso)));
     panel->set_boton_fuente(letra);
-    panel->set_ancho_boton(panel->ancho_boton() + static_cast<float>(aumentoX));
-    panel->set_alto_boton(panel->alto_boton() + static_cast<float>(aumentoY));
+    // As far as the panel holds them: a button never grows out of the panel's main area.
+    const QRect area = CalcularDisposicion(panel->medidas(), panel->size()).principal;
+    const float anchoMax = float(area.width()) - 2 * panel->boton_posx();
+    const float altoMax = float(area.height()) - 2 * panel->boton_posy();
+    panel->set_ancho_boton(
+        std::max(panel->ancho_boton(), std::min(panel->ancho_boton() + float(aumentoX), anchoMax)));
+    panel->set_alto_boton(
+        std::max(panel->alto_boton(), std::min(panel->alto_boton() + float(aumentoY), altoMax)));
   }
 }
 
