@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
@@ -80,6 +81,36 @@ void colorearme(Entorno& entorno, EstadoFormulario& estado, ControlesFormulario&
   }
 }
 
+// Whether a control's caption fits it whole (the scheme's buttons have 6 pixels of padding and
+// a border on each side).
+bool CaptionCabe(const QWidget* w) {
+  const QFontMetrics fm(w->font());
+  if (const auto* l = qobject_cast<const QLabel*>(w)) {
+    const QRect c = l->contentsRect();
+    const QRect t = fm.boundingRect(QRect(0, 0, c.width(), 9999),
+                                    l->wordWrap() ? Qt::TextWordWrap : 0, l->text());
+    return !l->pixmap().isNull() || (t.width() <= c.width() && t.height() <= c.height() + 2);
+  }
+  if (const auto* b = qobject_cast<const QPushButton*>(w))
+    return fm.horizontalAdvance(b->text()) + 14 <= b->width();
+  return !qobject_cast<const QAbstractButton*>(w) || w->sizeHint().width() <= w->width();
+}
+
+// A caption that the larger type would cut keeps the largest size that fits its control: the
+// controls keep their places, so the screen stays whole.
+void CaptionsQueCaben(QWidget* formulario) {
+  constexpr double kPaso = 0.5;
+  constexpr double kMinimo = 7;
+  const QList<QWidget*> controles = formulario->findChildren<QWidget*>();
+  for (QWidget* w : controles) {
+    QFont letra = w->font();
+    while (!CaptionCabe(w) && letra.pointSizeF() - kPaso >= kMinimo) {
+      letra.setPointSizeF(letra.pointSizeF() - kPaso);
+      w->setFont(letra);
+    }
+  }
+}
+
 // The terminal's display options: the type size step for every text of the form, the
 // panels' buttons included, and the enlargement of the families panels' buttons. The panels
 // keep their place on the screen: it is their buttons that grow, as far as the panel holds
@@ -88,6 +119,8 @@ void AplicarOpcionesTerminal(Entorno& entorno, ControlesFormulario& c, QWidget* 
   VariablesIniciales opciones(entorno);
   const qint16 paso = opciones.Tipo_Letra();
   AplicarTipoLetra(formulario, paso);
+  if (paso > 1)
+    CaptionsQueCaben(formulario);
   const qint32 aumentoX = std::max(0, opciones.Aumento_X());
   const qint32 aumentoY = std::max(0, opciones.Aumento_Y());
   for (PanelObjNuevo* panel : {c.gen.PanelFamilias, c.elab.PanelFamilias_Elab}) {
