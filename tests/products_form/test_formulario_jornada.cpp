@@ -11,8 +11,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// A manager's day on the form: by keyboard alone, on the demo's colour schemes, with the
-// terminal's type size, on the screen PRODUCTOS_PANTALLA (WIDTHxHEIGHT, 1024x768 when unset).
+// A manager's day on the form, on the screen PRODUCTOS_PANTALLA (1024x768 when unset).
 namespace {
 
 QSize Pantalla() {
@@ -24,7 +23,6 @@ QString Foco() {
   return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
 }
 
-// A key goes to the control with the focus or, with none, to the active window.
 void Tecla(Qt::Key tecla, int veces = 1) {
   for (int i = 0; i < veces; ++i) {
     QWidget* w = QApplication::focusWidget();
@@ -69,8 +67,7 @@ FormularioPrueba* Abrir(const QStringList& filas = {}, const QString& enCaja = u
   return f;
 }
 
-// The best contrast of a control's rendered pixels against its most common colour, and the
-// height of the rows holding a pixel of at least 3:1.
+// Best contrast against the most common colour, and height of the rows holding 3:1 or more.
 QPair<double, int> Tinta(const QWidget* w, int izq) {
   const QImage im = w->window()->grab(EnVentana(w).adjusted(izq, 6, -6, -6)).toImage();
   QHash<QRgb, int> cuenta;
@@ -176,7 +173,6 @@ void TestFormularioJornada::losCamposBloqueadosSeLeen() {
   std::unique_ptr<FormularioPrueba> f(
       Abrir({u"delete from colores"_s,
              u"insert into colores values ("_s + valores.join(u", "_s) + u", 'E')"_s}));
-  // The supplier's name, the product type, the zone and the till box, past their marks.
   for (const QString& nombre :
        {u"cmd_Proveedor"_s, u"opt_Venta"_s, u"optBarra"_s, u"ch_Mostrar"_s}) {
     const QWidget* w = f->control<QWidget>(nombre);
