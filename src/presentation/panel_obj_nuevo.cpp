@@ -168,6 +168,13 @@ void BotonPanel::paintEvent(QPaintEvent*) {
     p.setPen(tinta);
     p.drawText(pastilla, Qt::AlignCenter, entrada_.descNumerica);
   }
+  if (actual_) {
+    // The keyboard's button: a thick ring in the caption's colour, plain on any back colour,
+    // under the mark.
+    p.setPen(QPen(tinta, 4));
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(Redondeado(r.adjusted(3, 3, -3, -3)));
+  }
   if (marca_.isValid()) {
     // The mark is a coloured corner, readable at a glance on any back colour.
     QPainterPath esquina;
@@ -181,11 +188,6 @@ void BotonPanel::paintEvent(QPaintEvent*) {
   p.setPen(QPen(fondo.darker(isDown() ? 160 : 135), 1));
   p.setBrush(Qt::NoBrush);
   p.drawPath(forma);
-  if (actual_) {
-    // The keyboard's button: a thick ring in the caption's colour, plain on any back colour.
-    p.setPen(QPen(tinta, 4));
-    p.drawPath(Redondeado(r.adjusted(3, 3, -3, -3)));
-  }
 }
 
 void BotonPanel::pintarTexto(QPainter& p, const QRectF& zona, const QColor& tinta) {
@@ -375,8 +377,9 @@ PanelObjNuevo::PanelObjNuevo(QWidget* parent)
   fuenteLabel_.setWeight(QFont::Bold);
   connect(flechaIzq_, &QAbstractButton::clicked, this, [this] { cambiarPagina(-1); });
   connect(flechaDer_, &QAbstractButton::clicked, this, [this] { cambiarPagina(1); });
-  // The keyboard reaches the panel with Tab; its arrows then walk the buttons.
-  setFocusPolicy(Qt::StrongFocus);
+  // The keyboard reaches the panel with Tab; its arrows then walk the buttons. A touch leaves
+  // the focus where it was, in the field that the on-screen keyboard types into.
+  setFocusPolicy(Qt::TabFocus);
   pintarAreas();
   colocar();
 }
