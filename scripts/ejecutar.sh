@@ -37,13 +37,13 @@ done
 echo "No hay pantalla: las capturas de las pantallas del programa están en $capturas"
 ls -1 "$capturas"/*
 
-# The README's pictures come from the same run: terminal T1 at the design's size, and the
-# trainee's terminal T2, whose scheme is "Noche".
+# The README's pictures come from the same run: terminal T1 at the design's size, also with
+# the demo's "Noche" scheme (number 4).
 if [ -d docs ] && [ -f README.md ]; then
   cp "$capturas/1024x768/01-inicio.png" docs/inicio.png
   cp "$capturas/1024x768/03-productos-siguiente.png" docs/productos.png
   noche=$(mktemp -d)
-  "$carpeta/tools/demo/productos-demo" --terminal T2 "$noche/demo" > /dev/null
+  "$carpeta/tools/demo/productos-demo" --esquema 4 "$noche/demo" > /dev/null
   capturar "$noche/demo" 1024x768 "$noche/capturas"
   cp "$noche/capturas/04-productos-modificar.png" docs/productos-noche.png
   rm -rf "$noche"

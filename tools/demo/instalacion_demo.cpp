@@ -82,7 +82,7 @@ void Construir(const QString& obra, const OpcionesDemo& o) {
   // pictures.
   const QString rutaFotos = u"fotos"_s + QDir::separator();
   CrearBase(dir.filePath(kPrincipal), TablasPrincipales(),
-            [&](Conexion& c) { LlenarBasePrincipal(c, rutaFotos, o.idioma); });
+            [&](Conexion& c) { LlenarBasePrincipal(c, rutaFotos, o.idioma, o.esquema); });
   CrearBase(dir.filePath(kInformes), TablasInformes(),
             [&](Conexion& c) { LlenarBaseInformes(c, o.terminal); });
   EscribirTexto(dir.filePath(kIni), TextoProductosIni());
@@ -170,10 +170,12 @@ std::optional<OpcionesDemo> LeerArgumentos(const QStringList& argumentos, QStrin
                                   u"idioma"_s, u"CASTELLANO"_s);
   const QCommandLineOption terminal(u"terminal"_s, u"Terminal: T1 (encargada) o T2 (prácticas)."_s,
                                     u"terminal"_s, u"T1"_s);
-  p.addOptions({reemplazar, idioma, terminal});
+  const QCommandLineOption esquema(u"esquema"_s, u"Esquema de color de los terminales (1 a 5)."_s,
+                                   u"esquema"_s, u"0"_s);
+  p.addOptions({reemplazar, idioma, terminal, esquema});
   p.addPositionalArgument(u"carpeta"_s, u"Carpeta de la instalación."_s);
   const QString uso =
-      u"Uso: productos-demo [--reemplazar] [--idioma IDIOMA] [--terminal T1|T2] "
+      u"Uso: productos-demo [--reemplazar] [--idioma IDIOMA] [--terminal T1|T2] [--esquema N] "
       "<carpeta>"_s;
   if (!p.parse(argumentos)) {
     if (error)
@@ -190,6 +192,7 @@ std::optional<OpcionesDemo> LeerArgumentos(const QStringList& argumentos, QStrin
   o.reemplazar = p.isSet(reemplazar);
   o.idioma = p.value(idioma).trimmed().toUpper();
   o.terminal = p.value(terminal).trimmed().toUpper();
+  o.esquema = p.value(esquema).toInt();
   if (o.idioma.isEmpty() || o.idioma.contains(u'\'')) {
     if (error)
       *error = u"El idioma no es válido."_s;
