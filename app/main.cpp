@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QTextStream>
+#include <QTranslator>
 #include <memory>
 
 #include "capturas.h"
@@ -16,6 +17,9 @@ using namespace Qt::Literals::StringLiterals;
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
+  QTranslator textosQt;
+  if (!CargarTraduccionesQt(app, textosQt))
+    QTextStream(stderr) << "No se encuentran los textos en español de Qt (qt6-translations-l10n)\n";
   // With no display the screens are rendered to PNG files, and nobody can answer a message box:
   // the messages are answered as Enter would and written to the standard error instead.
   const QString capturas = qEnvironmentVariable("PRODUCTOS_CAPTURAS");

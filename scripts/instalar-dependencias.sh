@@ -12,6 +12,12 @@ paquetes=(
   # Qt 6 and its database drivers
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libqt6sql6-sqlite libqt6sql6-odbc libqt6sql6-psql
+  # Qt's own texts in Spanish, for the standard dialogs
+  qt6-translations-l10n
+  # the demo's GIF pictures
+  libgif-dev
+  # the Debian package (cpack -G DEB finds its dependencies with dpkg-shlibdeps)
+  dpkg-dev
   # the engines behind them
   libsqlite3-dev
   unixodbc unixodbc-dev odbcinst libsqliteodbc odbc-postgresql

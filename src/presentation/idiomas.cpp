@@ -194,7 +194,12 @@ void ModificarTamano(QWidget* formulario, QSize diseno, QSize pantalla) {
   const double ry = static_cast<double>(pantalla.height()) / diseno.height();
   const QList<QWidget*> controles = ControlesDe(formulario);
 
-  EscalarLetras(formulario, std::min(rx, ry));
+  // Small type does not narrow as much as its size (the glyphs keep whole pixels): on a screen
+  // smaller than the design the type shrinks a little more than the controls, so that every
+  // caption still fits.
+  constexpr double kMargenLetraPequena = 0.94;
+  const double letra = std::min(rx, ry);
+  EscalarLetras(formulario, letra < 1 ? letra * kMargenLetraPequena : letra);
   EscalarLimites(formulario, rx, ry);
   formulario->resize(Escalar(formulario->width(), rx), Escalar(formulario->height(), ry));
   for (QWidget* control : controles) {

@@ -34,7 +34,8 @@ void RegistrarCaptions(Entorno& entorno, const QString& lista);
 // The size adjustment: scales the form, designed for a `diseno` screen, to a `pantalla` screen.
 // Every control's left, top, width and height (and its minimum and maximum sizes), and grid
 // column widths and row heights, follow the ratio of the screens in each direction; type sizes
-// follow the smaller ratio (never under 7 points), so that texts fit the controls. Controls
+// follow the smaller ratio, a little less on a smaller screen (never under 7 points), so that
+// texts fit the controls. Controls
 // placed by a layout keep the layout's geometry and only get their type scaled.
 void ModificarTamano(QWidget* formulario, QSize diseno, QSize pantalla);
 // Scales the form, designed at `diseno`, to the screen (the primary screen's available size

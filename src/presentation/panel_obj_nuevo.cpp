@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -57,6 +58,13 @@ class BotonPanel : public QAbstractButton {
     animar_ = animar;
     update();
   }
+  // The button that the keyboard is on, ringed while the panel has the focus.
+  void ponerActual(bool actual) {
+    if (actual_ != actual) {
+      actual_ = actual;
+      update();
+    }
+  }
   const EntradaPanel& entrada() const { return entrada_; }
   int indice() const { return indice_; }
 
@@ -93,6 +101,7 @@ class BotonPanel : public QAbstractButton {
   QFont fuente_;
   QSize label_;
   bool animar_ = false;
+  bool actual_ = false;
   qreal hundido_ = 0;
   QVariantAnimation* animacion_ = nullptr;
 };
@@ -158,6 +167,13 @@ void BotonPanel::paintEvent(QPaintEvent*) {
     p.drawRoundedRect(pastilla, pastilla.height() / 2, pastilla.height() / 2);
     p.setPen(tinta);
     p.drawText(pastilla, Qt::AlignCenter, entrada_.descNumerica);
+  }
+  if (actual_) {
+    // The keyboard's button: a thick ring in the caption's colour, plain on any back colour,
+    // under the mark.
+    p.setPen(QPen(tinta, 4));
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(Redondeado(r.adjusted(3, 3, -3, -3)));
   }
   if (marca_.isValid()) {
     // The mark is a coloured corner, readable at a glance on any back colour.
@@ -232,15 +248,21 @@ DisposicionPanel CalcularDisposicion(const MedidasPanel& m, QSize tamano) {
   const auto px = [](float v) { return int(std::lround(v)); };
   const int altoSec = qMax(40, m.alto_secundario > 0 ? px(m.alto_secundario) : 64);
   const int anchoPrin = m.ancho_principal > 0 ? px(m.ancho_principal) : tamano.width();
-  const int altoPrin =
-      m.alto_principal > 0 ? px(m.alto_principal) : qMax(0, tamano.height() - altoSec);
+  // The bar under the main area always stays inside the panel: a main area asked larger than
+  // the panel leaves gives way, so that the paging arrows never go out of sight.
+  const int cabe = qMax(0, tamano.height() - altoSec);
+  const int altoPrin = m.alto_principal > 0 && m.secundario_posy < 0
+                           ? qMin(px(m.alto_principal), cabe)
+                           : (m.alto_principal > 0 ? px(m.alto_principal) : cabe);
   d.principal = QRect(0, 0, anchoPrin, altoPrin);
   const int anchoSec = m.ancho_secundario > 0 ? px(m.ancho_secundario) : anchoPrin;
   d.secundaria =
       QRect(0, m.secundario_posy >= 0 ? px(m.secundario_posy) : altoPrin, anchoSec, altoSec);
 
   const int altoFlecha = qMax(32, altoSec - kHueco);
-  const int anchoFlecha = qMax(88, altoFlecha * 3 / 2);
+  // Arrows as wide as a thumb, narrower in a narrow bar so that the page indicator keeps a
+  // third of it.
+  const int anchoFlecha = qMin(qMax(88, altoFlecha * 3 / 2), qMax(44, (anchoSec - 4 * kHueco) / 3));
   const int yFlecha = (altoSec - altoFlecha) / 2;
   d.flechaIzq =
       QRect(m.flecha_izq_posx >= 0 ? px(m.flecha_izq_posx) : kHueco,
@@ -355,6 +377,9 @@ PanelObjNuevo::PanelObjNuevo(QWidget* parent)
   fuenteLabel_.setWeight(QFont::Bold);
   connect(flechaIzq_, &QAbstractButton::clicked, this, [this] { cambiarPagina(-1); });
   connect(flechaDer_, &QAbstractButton::clicked, this, [this] { cambiarPagina(1); });
+  // The keyboard reaches the panel with Tab; its arrows then walk the buttons. A touch leaves
+  // the focus where it was, in the field that the on-screen keyboard types into.
+  setFocusPolicy(Qt::TabFocus);
   pintarAreas();
   colocar();
 }
@@ -373,6 +398,7 @@ void PanelObjNuevo::limpiar() {
 }
 
 void PanelObjNuevo::reiniciar() {
+  actual_ = 0;
   pararAnimacion();
   objetos_.clear();
   inicio_ = 0;
@@ -516,6 +542,7 @@ void PanelObjNuevo::mostrarPagina() {
     }
   }
   pintarBotones();
+  marcarActual();
   indicador_->setText(TextoIndicador(pagina(), paginas()));
   indicador_->setVisible(!objetos_.isEmpty());
   flechaIzq_->setEnabled(inicio_ > 0);
@@ -599,6 +626,75 @@ void PanelObjNuevo::pararAnimacion() {
     animacionPagina_->stop();
   delete paginaSaliente_.data();
   pagina_->move(0, 0);
+}
+
+void PanelObjNuevo::marcarActual() {
+  for (BotonPanel* boton : std::as_const(botones_))
+    boton->ponerActual(hasFocus() && boton->indice() >= 0 && boton->indice() == actual_);
+}
+
+void PanelObjNuevo::irA(int indice) {
+  if (objetos_.isEmpty())
+    return;
+  actual_ = qBound(0, indice, int(objetos_.size()) - 1);
+  const int n = qMax(1, botonesPorPagina());
+  const int inicio = (actual_ / n) * n;
+  if (inicio != inicio_)
+    cambiarPagina((inicio - inicio_) / n);
+  marcarActual();
+}
+
+void PanelObjNuevo::keyPressEvent(QKeyEvent* evento) {
+  const int n = qMax(1, botonesPorPagina());
+  const int columnas = qMax(1, disposicion_.columnas);
+  switch (evento->key()) {
+    case Qt::Key_Left:
+      irA(actual_ - 1);
+      break;
+    case Qt::Key_Right:
+      irA(actual_ + 1);
+      break;
+    case Qt::Key_Up:
+      irA(actual_ - columnas);
+      break;
+    case Qt::Key_Down:
+      irA(actual_ + columnas);
+      break;
+    case Qt::Key_PageUp:
+      irA(actual_ - n);
+      break;
+    case Qt::Key_PageDown:
+      irA(actual_ + n);
+      break;
+    case Qt::Key_Home:
+      irA(0);
+      break;
+    case Qt::Key_End:
+      irA(int(objetos_.size()) - 1);
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+      for (const BotonPanel* boton : std::as_const(botones_)) {
+        if (boton->indice() >= 0 && boton->indice() == actual_)
+          botonTocado(boton);
+      }
+      break;
+    default:
+      QWidget::keyPressEvent(evento);
+  }
+}
+
+void PanelObjNuevo::focusInEvent(QFocusEvent* evento) {
+  if (actual_ < inicio_ || actual_ >= inicio_ + botonesPorPagina())
+    actual_ = inicio_;
+  marcarActual();
+  QWidget::focusInEvent(evento);
+}
+
+void PanelObjNuevo::focusOutEvent(QFocusEvent* evento) {
+  marcarActual();
+  QWidget::focusOutEvent(evento);
 }
 
 void PanelObjNuevo::botonTocado(const BotonPanel* boton) {

@@ -184,8 +184,15 @@ class PanelObjNuevo : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* evento) override;
+  // Arrows walk the buttons (left, right, a row up or down, a page with Page Up and Page Down,
+  // Home and End), turning the page when they leave it; Enter or Space touches the button.
+  void keyPressEvent(QKeyEvent* evento) override;
+  void focusInEvent(QFocusEvent* evento) override;
+  void focusOutEvent(QFocusEvent* evento) override;
 
  private:
+  void irA(int indice);
+  void marcarActual();
   void medidasCambiadas();
   void colocar();
   void mostrarPagina();
@@ -214,6 +221,7 @@ class PanelObjNuevo : public QWidget {
   QString nombreSeleccionado_;
   QString codigoSeleccionado_;
   int indiceSeleccionado_ = -1;
+  int actual_ = 0;  // the table position of the keyboard's button
 
   QWidget* areaPrincipal_;
   QWidget* pagina_;

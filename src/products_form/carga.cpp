@@ -4,9 +4,11 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
+#include <algorithm>
 #include <exception>
 #include <functional>
 
@@ -72,6 +74,63 @@ void colorearme(Entorno& entorno, EstadoFormulario& estado, ControlesFormulario&
   ColorearPaneles(colorear, {c.gen.PanelFamilias, c.elab.PanelFamilias_Elab});
 }
 
+// Whether a control's caption fits it whole (the scheme's buttons have 6 pixels of padding and
+// a border on each side).
+bool CaptionCabe(const QWidget* w) {
+  const QFontMetrics fm(w->font());
+  if (const auto* l = qobject_cast<const QLabel*>(w)) {
+    const QRect c = l->contentsRect();
+    const QRect t = fm.boundingRect(QRect(0, 0, c.width(), 9999),
+                                    l->wordWrap() ? Qt::TextWordWrap : 0, l->text());
+    return !l->pixmap().isNull() || (t.width() <= c.width() && t.height() <= c.height() + 2);
+  }
+  if (const auto* b = qobject_cast<const QPushButton*>(w))
+    return fm.horizontalAdvance(b->text()) + 14 <= b->width();
+  return !qobject_cast<const QAbstractButton*>(w) || w->sizeHint().width() <= w->width();
+}
+
+// A caption that the larger type would cut keeps the largest size that fits its control: the
+// controls keep their places, so the screen stays whole.
+void CaptionsQueCaben(QWidget* formulario) {
+  constexpr double kPaso = 0.5;
+  constexpr double kMinimo = 7;
+  const QList<QWidget*> controles = formulario->findChildren<QWidget*>();
+  for (QWidget* w : controles) {
+    QFont letra = w->font();
+    while (!CaptionCabe(w) && letra.pointSizeF() - kPaso >= kMinimo) {
+      letra.setPointSizeF(letra.pointSizeF() - kPaso);
+      w->setFont(letra);
+    }
+  }
+}
+
+// The terminal's display options: the type size step for every text of the form, the
+// panels' buttons included, and the enlargement of the families panels' buttons. The panels
+// keep their place on the screen: it is their buttons that grow, as far as the panel holds
+// them, so fewer fit a page.
+void AplicarOpcionesTerminal(Entorno& entorno, ControlesFormulario& c, QWidget* formulario) {
+  VariablesIniciales opciones(entorno);
+  const qint16 paso = opciones.Tipo_Letra();
+  AplicarTipoLetra(formulario, paso);
+  if (paso > 1)
+    CaptionsQueCaben(formulario);
+  const qint32 aumentoX = std::max(0, opciones.Aumento_X());
+  const qint32 aumentoY = std::max(0, opciones.Aumento_Y());
+  for (PanelObjNuevo* panel : {c.gen.PanelFamilias, c.elab.PanelFamilias_Elab}) {
+    QFont letra = panel->boton_fuente();
+    letra.setPixelSize(qRound(letra.pixelSize() * FactorTipoLetra(paso)));
+    panel->set_boton_fuente(letra);
+    // As far as the panel holds them: a button never grows out of the panel's main area.
+    const QRect area = CalcularDisposicion(panel->medidas(), panel->size()).principal;
+    const float anchoMax = float(area.width()) - 2 * panel->boton_posx();
+    const float altoMax = float(area.height()) - 2 * panel->boton_posy();
+    panel->set_ancho_boton(
+        std::max(panel->ancho_boton(), std::min(panel->ancho_boton() + float(aumentoX), anchoMax)));
+    panel->set_alto_boton(
+        std::max(panel->alto_boton(), std::min(panel->alto_boton() + float(aumentoY), altoMax)));
+  }
+}
+
 }  // namespace
 
 void ExcepcionesSegunPrograma(Entorno& entorno, PantallaGenerico& gen) {
@@ -118,6 +177,7 @@ void CargarFormulario(Entorno& entorno, EstadoFormulario& estado, ControlesFormu
   }
   Paso(entorno, [&] { ExcepcionesSegunPrograma(entorno, c.gen); });
   Paso(entorno, [&] { AjustarFormulario(entorno, formulario); });
+  Paso(entorno, [&] { AplicarOpcionesTerminal(entorno, c, formulario); });
   Paso(entorno, [&] { cargarimpresorasdisponibles(entorno, estado, c); });
   Paso(entorno, [&] {
     c.gen.cbo_Medida->clear();

@@ -28,7 +28,7 @@ T* Colocar(T* control, const QString& nombre, const QRect& geometria) {
   return control;
 }
 
-constexpr int kAnchoBarra = 40;
+constexpr int kAnchoBarra = disenio::kAltoToque;
 
 class EstiloListaTactil : public QProxyStyle {
  public:
@@ -173,6 +173,10 @@ class EstiloMarcasGrandes : public QProxyStyle {
       case PM_IndicatorHeight:
       case PM_ExclusiveIndicatorWidth:
       case PM_ExclusiveIndicatorHeight:
+        // As the type grows or shrinks with the screen and the terminal's type size, so does
+        // the mark, so that the caption beside it keeps its room.
+        if (control && control->font().pointSizeF() > 0)
+          return qRound(kLadoMarca * control->font().pointSizeF() / disenio::kLetra);
         return kLadoMarca;
       default:
         return QProxyStyle::pixelMetric(metrica, opcion, control);
@@ -243,7 +247,7 @@ AvisosPantalla CrearAvisosPantalla(QWidget* m, const QStringList& n) {
   return a;
 }
 
-void HacerListaTactil(QListWidget* lista) {
+void HacerListaTactil(QAbstractItemView* lista) {
   auto* estilo = new EstiloListaTactil(QStyleFactory::create(lista->style()->name()));
   estilo->setParent(lista);
   lista->setStyle(estilo);

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <initializer_list>
 
+class QAbstractItemView;
 class QCheckBox;
 class QColor;
 class QComboBox;
@@ -54,7 +55,7 @@ QGroupBox* CrearMarco(QWidget* padre, const QString& nombre, const QString& titu
 
 // Makes a list easy to work with a finger: rows at least as high as a touch target and a scroll
 // bar as wide as one.
-void HacerListaTactil(QListWidget* lista);
+void HacerListaTactil(QAbstractItemView* lista);
 
 // Sets a widget's type size in points, and bold when asked.
 void PonerLetra(QWidget* control, int puntos, bool negrita = false);

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,11 +23,24 @@ void EventosCampos::conectar(FiltroTeclas& filtro) {
   connect(g.cbo_Medida, &QComboBox::currentIndexChanged, this, &EventosCampos::cbo_MedidaClick);
   connect(g.ch_Mostrar, &QCheckBox::toggled, this, &EventosCampos::ch_MostrarClick);
   connect(g.chkProdEspecial, &QCheckBox::toggled, this, &EventosCampos::chkProdEspecialClick);
+  // Whatever reveals the box (a price, a kind of product, the end of a special product), the
+  // picture and colour come with it as the box says.
+  g.ch_Mostrar->installEventFilter(this);
   connect(g.bt_botonAnt, &QPushButton::clicked, this, [this] { MoverPosicion(-1); });
   connect(g.bt_botonSig, &QPushButton::clicked, this, [this] { MoverPosicion(1); });
   for (QLineEdit* numero : {g.txtDescNumericaPGen, c_.elab.txtDescNumerica}) {
     filtro.poner(numero, [](QLineEdit*, int tecla) { return TeclaSoloDigitos(tecla); });
   }
+}
+
+bool EventosCampos::eventFilter(QObject* objeto, QEvent* evento) {
+  if (objeto == c_.gen.ch_Mostrar && evento->type() == QEvent::Show) {
+    if (c_.gen.ch_Mostrar->isChecked())
+      MostrarImagenColor();
+    else
+      ocultarImagenColor();
+  }
+  return QObject::eventFilter(objeto, evento);
 }
 
 void EventosCampos::cbo_MedidaClick(int indice) {

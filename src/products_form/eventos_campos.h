@@ -21,6 +21,9 @@ class EventosCampos : public QObject {
   void MostrarImagenColor();
   void ocultarImagenColor();
 
+ protected:
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
+
  private:
   void cbo_MedidaClick(int indice);
   void ch_MostrarClick(bool marcado);

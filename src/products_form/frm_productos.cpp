@@ -7,6 +7,7 @@
 #include "alta_producto.h"
 #include "atajos_teclado.h"
 #include "buscar.h"
+#include "campos_legibles.h"
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
@@ -20,6 +21,7 @@
 #include "listas_componentes.h"
 #include "marcos_auxiliares.h"
 #include "modos.h"
+#include "navegacion_teclado.h"
 #include "panel_familias.h"
 #include "panel_proveedores.h"
 #include "pantalla_elaborados.h"
@@ -96,6 +98,8 @@ void FrmProductos1024::conectar() {
   auto* componentes = new ListasComponentes(entorno_, controles_, this);
   componentes->conectar(*modos_);
   new AtajosTeclado(this);
+  navegacion_ = new NavegacionTeclado(controles_, this);
+  new CamposLegibles(controles_, this);
   conectarDialogos();
 }
 
@@ -108,6 +112,11 @@ void FrmProductos1024::conectarDialogos() {
     connect(subproductos, &QPushButton::clicked, this,
             [this] { AbrirSubproductos(entorno_, tablas_, this); });
   }
+}
+
+bool FrmProductos1024::focusNextPrevChild(bool siguiente) {
+  return (navegacion_ && navegacion_->moverFoco(siguiente)) ||
+         QWidget::focusNextPrevChild(siguiente);
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {

@@ -12,6 +12,7 @@ class EventosCampos;
 class FiltroTeclas;
 class Importes;
 class Modos;
+class NavegacionTeclado;
 class Teclado;
 class Visualizacion;
 
@@ -39,6 +40,10 @@ class FrmProductos1024 : public QWidget {
   EventosCampos& eventos() { return *eventos_; }
   Teclado& teclado() { return *teclado_; }
 
+ protected:
+  // Tab walks what the manager can see and reach, in the order the screen reads.
+  bool focusNextPrevChild(bool siguiente) override;
+
  private:
   void construir();
   void conectar();
@@ -55,4 +60,5 @@ class FrmProductos1024 : public QWidget {
   EventosCampos* eventos_ = nullptr;
   Modos* modos_ = nullptr;
   Teclado* teclado_ = nullptr;
+  NavegacionTeclado* navegacion_ = nullptr;
 };

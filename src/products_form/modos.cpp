@@ -270,6 +270,10 @@ void Modos::limpiarNuevoGenerico() {
   DesmarcarOpcion(g.optBarra);
   g.opt_ambos->setChecked(true);
   PonerFamilia(g.lblnomFamilia, QString(), u"-1"_s);
+  // A new product is shown on the till unless the manager says otherwise, whatever the product
+  // on show before was.
+  g.chkProdEspecial->setChecked(false);
+  g.ch_Mostrar->setChecked(true);
   c_.marcos.lb_ProveedoresAsignados->clear();
   g.cmd_Proveedor->setText(u"Seleccione sus proveedores"_s);
 }

@@ -86,12 +86,12 @@ void CrearServicio(PantallaGenerico& p, QWidget* m) {
       CrearBoton(m, u"cmdImpresoras"_s, u"Impresora"_s, QRect(482, Fila(8), 210, kAlto));
 
   p.frMostrarCaja =
-      CrearMarco(m, u"frMostrarCaja"_s, QString(), QRect(4, Fila(9) - 4, 304, kAlto + 6));
+      CrearMarco(m, u"frMostrarCaja"_s, QString(), QRect(4, Fila(9) - 4, 290, kAlto + 6));
   p.ch_Mostrar = CrearCasilla(p.frMostrarCaja, u"ch_Mostrar"_s, u"Mostrar en Pantalla de Venta"_s,
-                              QRect(4, 3, 296, kAlto));
+                              QRect(4, 3, 282, kAlto));
   p.chkProdEspecial = CrearCasilla(m, u"chkProdEspecial"_s, u"Producto Entrada / Ropero"_s,
-                                   QRect(314, Fila(9), 254, kAlto));
-  p.Command1 = CrearBoton(m, u"Command1"_s, u"Subproductos"_s, QRect(570, Fila(9), 122, kAlto));
+                                   QRect(300, Fila(9), 258, kAlto));
+  p.Command1 = CrearBoton(m, u"Command1"_s, u"Subproductos"_s, QRect(560, Fila(9), 132, kAlto));
   p.frlogo1 = CrearMarco(m, u"frlogo1"_s, QString(), QRect(8, Fila(10) - 4, 684, 4));
 }
 

@@ -39,7 +39,7 @@ ServicioDialogos::Respuesta DialogosGuion::mensaje(const QString& texto, const Q
   llamadas_.append({u"mensaje"_s, texto, titulo, icono, botones});
   if (!respuestas_.isEmpty())
     return respuestas_.dequeue();
-  return botones == Botones::SiNo || botones == Botones::SiNoCancelar ? Respuesta::Si
+  return botones == Botones::SiNo || botones == Botones::SiNoCancelar ? Respuesta::No
                                                                       : Respuesta::Aceptar;
 }
 
@@ -56,7 +56,7 @@ std::optional<QColor> DialogosGuion::elegirColor(const QColor& inicial) {
 
 bool DialogosGuion::abrirDocumento(const QString& documento) {
   llamadas_.append({u"abrirDocumento"_s, documento, {}});
-  return true;
+  return abreDocumentos_;
 }
 
 bool DialogosGuion::iniciarPrograma(const QString& ruta, const QString& carpetaTrabajo) {

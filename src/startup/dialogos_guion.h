@@ -10,7 +10,8 @@
 #include "dialogos.h"
 
 // A dialog service that answers from a script and records every call, for tests. An answer
-// that was not scripted is the first button of the box (as Enter would press it), an open-file
+// that was not scripted is the box's default button, as Enter would press it ("No" for a yes-or-no
+// question, else the first button), an open-file
 // dialog that was not scripted is cancelled, and so is a colour dialog.
 class DialogosGuion : public ServicioDialogos {
  public:
@@ -26,6 +27,8 @@ class DialogosGuion : public ServicioDialogos {
   void siguienteArchivo(const QString& ruta) { archivos_.enqueue(ruta); }
   void siguienteColor(const std::optional<QColor>& color) { colores_.enqueue(color); }
   void programaAbierto(const QString& nombreProceso, int instancias = 1);
+  // false: the desktop has nothing that opens documents (no browser, no launcher).
+  void abrirDocumentos(bool abre) { abreDocumentos_ = abre; }
 
   const QList<Llamada>& llamadas() const { return llamadas_; }
   QList<Llamada> llamadasDe(const QString& tipo) const;
@@ -48,5 +51,6 @@ class DialogosGuion : public ServicioDialogos {
   QQueue<Respuesta> respuestas_;
   QQueue<QString> archivos_;
   QQueue<std::optional<QColor>> colores_;
-  QMap<QString, int> abiertos_;  // process name in lower case -> running instances
+  QMap<QString, int> abiertos_;
+  bool abreDocumentos_ = true;  // process name in lower case -> running instances
 };

@@ -9,9 +9,13 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QTranslator>
 #include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
@@ -80,6 +84,11 @@ ServicioDialogos::Respuesta DialogosQt::mensaje(const QString& texto, const QStr
       cancelar = boton(u"Cancelar"_s, QMessageBox::RejectRole);
       break;
   }
+  // A question may destroy something: Enter, or a stray touch on the default, answers "No".
+  if (no) {
+    caja.setDefaultButton(static_cast<QPushButton*>(no));
+    caja.setEscapeButton(no);
+  }
   caja.exec();
   const QAbstractButton* pulsado = caja.clickedButton();
   if (pulsado && pulsado == si)
@@ -92,16 +101,84 @@ ServicioDialogos::Respuesta DialogosQt::mensaje(const QString& texto, const QStr
   return botones == Botones::SiNo ? Respuesta::No : Respuesta::Cancelar;
 }
 
+namespace {
+
+// Rows, buttons and fields of a standard dialog as large as a fingertip.
+const QString kEstiloTactil =
+    u"QAbstractItemView { font-size: 16px; }"
+    "QAbstractItemView::item { min-height: 44px; }"
+    "QPushButton, QToolButton, QComboBox, QLineEdit { min-height: 44px; font-size: 16px; }"
+    "QPushButton { min-width: 120px; }"
+    "QScrollBar:vertical { width: 44px; } QScrollBar:horizontal { height: 44px; }"_s;
+
+constexpr int kColumnasColores = 8;
+constexpr QSize kMuestra(64, 48);
+
+}  // namespace
+
+bool CargarTraduccionesQt(QCoreApplication& app, QTranslator& traductor) {
+  if (!traductor.load(QLocale(QLocale::Spanish, QLocale::Spain), u"qtbase"_s, u"_"_s,
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    return false;
+  }
+  return app.installTranslator(&traductor);
+}
+
 QString DialogosQt::abrirArchivo(const QString& titulo, const QString& carpeta,
                                  const QString& filtro) {
-  return QFileDialog::getOpenFileName(QApplication::activeWindow(), titulo, carpeta, filtro);
+  // Qt's own dialog rather than the desktop's: only it can be made touch-sized.
+  QFileDialog dialogo(QApplication::activeWindow(), titulo, carpeta, filtro);
+  dialogo.setOption(QFileDialog::DontUseNativeDialog);
+  dialogo.setFileMode(QFileDialog::ExistingFile);
+  dialogo.setStyleSheet(kEstiloTactil);
+  dialogo.resize(900, 640);
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+    return {};
+  return dialogo.selectedFiles().first();
 }
 
 std::optional<QColor> DialogosQt::elegirColor(const QColor& inicial) {
-  const QColor c = QColorDialog::getColor(inicial, QApplication::activeWindow());
-  if (!c.isValid())
+  // The standard dialog's swatches are too small for a finger (about 22×18 pixels) and cannot
+  // be enlarged: its 48 basic colours are offered here as large swatches, and "Otro color..."
+  // opens the standard dialog for any other colour.
+  QDialog dialogo(QApplication::activeWindow());
+  dialogo.setWindowTitle(QColorDialog::tr("Select Color"));
+  dialogo.setStyleSheet(kEstiloTactil);
+  auto* rejilla = new QGridLayout(&dialogo);
+  std::optional<QColor> elegido;
+  for (int i = 0; i < 48; ++i) {
+    const QColor color = QColorDialog::standardColor(i);
+    auto* muestra = new QPushButton(&dialogo);
+    muestra->setObjectName(u"color_"_s + QString::number(i));
+    muestra->setFixedSize(kMuestra);
+    muestra->setStyleSheet(
+        u"QPushButton { background-color: %1; border: %2px solid #202020; "
+        "min-width: 0; }"_s.arg(color.name())
+            .arg(color == inicial ? 4 : 1));
+    muestra->setAccessibleName(color.name());
+    QObject::connect(muestra, &QPushButton::clicked, &dialogo, [&dialogo, &elegido, color] {
+      elegido = color;
+      dialogo.accept();
+    });
+    rejilla->addWidget(muestra, i / kColumnasColores, i % kColumnasColores);
+  }
+  auto* otro = new QPushButton(u"Otro color..."_s, &dialogo);
+  otro->setObjectName(u"otro_color"_s);
+  auto* cancelar = new QPushButton(u"Cancelar"_s, &dialogo);
+  QObject::connect(otro, &QPushButton::clicked, &dialogo, [&dialogo, &elegido, inicial] {
+    const QColor c = QColorDialog::getColor(inicial, &dialogo);
+    if (c.isValid()) {
+      elegido = c;
+      dialogo.accept();
+    }
+  });
+  QObject::connect(cancelar, &QPushButton::clicked, &dialogo, &QDialog::reject);
+  const int filas = 48 / kColumnasColores;
+  rejilla->addWidget(otro, filas, 0, 1, kColumnasColores / 2);
+  rejilla->addWidget(cancelar, filas, kColumnasColores / 2, 1, kColumnasColores / 2);
+  if (dialogo.exec() != QDialog::Accepted)
     return std::nullopt;
-  return c;
+  return elegido;
 }
 
 bool DialogosQt::abrirDocumento(const QString& documento) {

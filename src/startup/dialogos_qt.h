@@ -2,7 +2,13 @@
 
 #include "dialogos.h"
 
+class QCoreApplication;
+class QTranslator;
 class QWidget;
+
+// Loads Qt's own Spanish texts (Debian's Qt translations) into the application, so that every
+// standard dialog speaks Spanish; false when they are not installed.
+bool CargarTraduccionesQt(QCoreApplication& app, QTranslator& traductor);
 
 // The desktop's own dialogs and programs.
 class DialogosQt : public ServicioDialogos {

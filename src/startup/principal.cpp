@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <memory>
 
 #include "entorno.h"
@@ -126,9 +127,25 @@ void AbrirAyuda(Entorno& entorno, QString pagina) {
     return;
   if (!pagina.contains(u"www."_s)) {
     const QString local = QDir(entorno.instalacion.rutaEnCarpeta(u"ayuda"_s)).filePath(pagina);
-    pagina = QFileInfo::exists(local) ? local : entorno.instalacion.ayudaWeb + pagina;
+    // The pages that the package installs beside the program (share/productos/ayuda) serve an
+    // installation that has none of its own.
+    const QString instalada = QDir(QCoreApplication::applicationDirPath())
+                                  .filePath(u"../share/productos/ayuda/"_s + pagina);
+    if (QFileInfo::exists(local))
+      pagina = local;
+    else if (QFileInfo::exists(instalada))
+      pagina = QDir::cleanPath(instalada);
+    else
+      pagina = entorno.instalacion.ayudaWeb + pagina;
   }
-  entorno.dialogos->abrirDocumento(pagina);
+  if (entorno.dialogos->abrirDocumento(pagina))
+    return;
+  // With no browser or launcher on the terminal the manager must hear why nothing opened.
+  const QString aviso =
+      u"No se ha podido abrir la ayuda: no hay un navegador instalado que la muestre."_s;
+  entorno.dialogos->mensaje(aviso + u"\r\n"_s + pagina, TituloPrograma(),
+                            ServicioDialogos::Icono::Exclamacion);
+  entorno.RegistrarError(u"Ayuda  1"_s, aviso + u" "_s + pagina);
 }
 
 QString RutaFotosDeBase(const QString& ruta, bool* otraUnidad) {
@@ -152,6 +169,13 @@ void UbicarBaseDeDatos(Entorno& entorno) {
   s.BDEnOtraUnidad = otraUnidad;
   if (otraUnidad)
     s.RutaFotosBD = fotos;
+}
+
+QString RutaDeInstalacion(const Instalacion& instalacion, const QString& ruta) {
+  static const QRegularExpression kUnidad(u"^[A-Za-z]:"_s);
+  if (ruta.isEmpty() || !QDir::isRelativePath(ruta) || kUnidad.match(ruta).hasMatch())
+    return ruta;
+  return QDir(instalacion.carpetaPrograma).filePath(ruta);
 }
 
 void LeerOpciones(Entorno& entorno) {
@@ -181,7 +205,7 @@ void LeerOpciones(Entorno& entorno) {
     leer(u"tipo_programa"_s, [&](const QVariant& v) { s.tipo_programa = v.toString(); });
     leer(u"rutaFotos"_s, [&](const QVariant& v) {
       if (!v.isNull())
-        s.rutaFotos = v.toString();
+        s.rutaFotos = RutaDeInstalacion(entorno.instalacion, v.toString());
     });
     leer(u"idioma"_s, [&](const QVariant& v) {
       s.idioma = v.isNull() || v.toString().isEmpty() ? u"CASTELLANO"_s : v.toString();

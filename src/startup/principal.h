@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 struct Entorno;
+struct Instalacion;
 class Conexion;
 
 // A failure that the start-up deliberately leaves unguarded: it ends the program with a message,
@@ -37,6 +38,10 @@ void LeerColorPanelFamilias(Entorno& entorno);
 
 // Opens a help page: the local copy in the "ayuda" folder when there is one, else the web.
 void AbrirAyuda(Entorno& entorno, QString pagina);
+
+// A folder of the options (the photo folder) relative to the installation's folder, so that a
+// copied or moved installation keeps working; absolute paths and drive paths stand as given.
+QString RutaDeInstalacion(const Instalacion& instalacion, const QString& ruta);
 
 // The pictures folder of a database outside drive C, from the connection's default database
 // path: the folder of "velandria.mdb" followed by "fotos" and a separator. The empty text for a

@@ -268,7 +268,7 @@ class TestIdiomas : public QObject {
     QCOMPARE(rejilla->columnWidth(0), 156);
     QCOMPARE(rejilla->columnWidth(1), 94);
     QCOMPARE(rejilla->rowHeight(0), 31);
-    QCOMPARE(f->findChild<QLabel*>(u"lbl_nombre"_s)->font().pointSizeF(), 12 * 0.78125);
+    QCOMPARE(f->findChild<QLabel*>(u"lbl_nombre"_s)->font().pointSizeF(), 12 * 0.78125 * 0.94);
     // Scaling and gathering in the same load.
     QCOMPARE(captionsRegistrados(), kCaptionsFormulario);
     Guardar(f.get(), u"escalado_800x600.png"_s);

@@ -3,6 +3,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <QApplication>
+
 #include "dialogos_guion.h"
 #include "dialogos_qt.h"
 
@@ -13,6 +15,7 @@ class TestDialogos : public QObject {
  private slots:
   void encuentraProcesosPorNombreSinExeNiMayusculas();
   void elGuionCierraLasInstanciasAbiertasUnaAUna();
+  void enterEnUnaPreguntaRespondeNo();
 };
 
 namespace {
@@ -48,6 +51,19 @@ void TestDialogos::elGuionCierraLasInstanciasAbiertasUnaAUna() {
   QCOMPARE(cerrados, 2);
   QVERIFY(!d.cerrarPrograma(u"Tarvelo"_s));
   QCOMPARE(d.llamadasDe(u"cerrarPrograma"_s).size(), 3);
+}
+
+// A question that may destroy something answers "No" to Enter, in the real message box and in
+// the scripted one alike.
+void TestDialogos::enterEnUnaPreguntaRespondeNo() {
+  QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+  DialogosQt qt;
+  DialogosGuion guion;
+  for (ServicioDialogos* d : std::initializer_list<ServicioDialogos*>{&qt, &guion}) {
+    QCOMPARE(d->mensaje(u"¿Borrar?"_s, {}, ServicioDialogos::Icono::Pregunta,
+                        ServicioDialogos::Botones::SiNo),
+             ServicioDialogos::Respuesta::No);
+  }
 }
 
 QTEST_MAIN(TestDialogos)

@@ -141,7 +141,7 @@ void InsertarRelaciones(Conexion& c) {
   }
 }
 
-void InsertarOpciones(Conexion& c, const QString& rutaFotos, const QString& idioma) {
+void InsertarOpciones(Conexion& c, const QString& rutaFotos, const QString& idioma, int esquema) {
   const QString instalacion = QString::fromUtf16(kInstalacion);
   Insertar(c, u"opciones"_s,
            u"identificador, idioma, tipo_programa, numDecimales, rutaFotos, modocaja, "
@@ -152,8 +152,8 @@ void InsertarOpciones(Conexion& c, const QString& rutaFotos, const QString& idio
     Insertar(c, u"opciones_terminal"_s,
              u"identificador, empleado, id_color, ColorPredefinido, Tipo_Letra, Aumento_X, "
              "Aumento_Y"_s,
-             {Tx(instalacion + QString::fromUtf16(t.sufijo)), Nu(t.empleado), Nu(t.idColor),
-              Bo(true), Nu(t.tipoLetra), Nu(0), Nu(0)});
+             {Tx(instalacion + QString::fromUtf16(t.sufijo)), Nu(t.empleado),
+              Nu(esquema > 0 ? esquema : t.idColor), Bo(true), Nu(t.tipoLetra), Nu(0), Nu(0)});
   }
   Insertar(c, u"relaciones_fijas"_s, u"indice, daton"_s,
            {Tx(u"opcion_color_panel_familias"_s), Bo(true)});
@@ -191,12 +191,13 @@ void InsertarPersonal(Conexion& c) {
 
 }  // namespace
 
-void LlenarBasePrincipal(Conexion& conexion, const QString& rutaFotos, const QString& idioma) {
+void LlenarBasePrincipal(Conexion& conexion, const QString& rutaFotos, const QString& idioma,
+                         int esquema) {
   Transaccion transaccion(conexion);
   InsertarFamilias(conexion);
   InsertarProductos(conexion);
   InsertarRelaciones(conexion);
-  InsertarOpciones(conexion, rutaFotos, idioma);
+  InsertarOpciones(conexion, rutaFotos, idioma, esquema);
   InsertarPersonal(conexion);
   transaccion.confirmar();
 }

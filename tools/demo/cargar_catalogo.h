@@ -13,7 +13,9 @@ class Conexion;
 // The main database: catalogue, options of the installation "INST1" and its terminals, colour
 // schemes, translations and permissions. rutaFotos is the installation's pictures folder as the
 // program must find it (absolute, ending in a separator); idioma the language of the options.
-void LlenarBasePrincipal(Conexion& conexion, const QString& rutaFotos, const QString& idioma);
+// esquema: the colour scheme of every terminal; 0 keeps each terminal's own.
+void LlenarBasePrincipal(Conexion& conexion, const QString& rutaFotos, const QString& idioma,
+                         int esquema = 0);
 // The reports source: the one row that names the program type, the installation and terminal.
 void LlenarBaseInformes(Conexion& conexion, const QString& sufijoTerminal);
 

@@ -1,15 +1,10 @@
 #include "gif.h"
 
-#include <unordered_map>
+#include <gif_lib.h>
 
 namespace {
 
 constexpr int kBitsPorPixel = 8;
-constexpr int kCodigoLimpiar = 1 << kBitsPorPixel;  // 256
-constexpr int kCodigoFin = kCodigoLimpiar + 1;      // 257
-constexpr int kPrimerCodigoLibre = kCodigoFin + 1;  // 258
-// A decoder's table ends at 4095; the encoder starts afresh before it would need 4096.
-constexpr int kUltimoCodigo = 4095;
 constexpr int kGrises = 40;
 
 QList<QRgb> CrearPaleta() {
@@ -40,72 +35,11 @@ int Nivel(int componente) {
   return (componente + 25) / 51;
 }
 
-// Packs codes of varying width into bytes, least significant bit first, as GIF wants them.
-class EscritorBits {
- public:
-  void escribir(int codigo, int ancho) {
-    acumulado_ |= static_cast<quint32>(codigo) << bits_;
-    bits_ += ancho;
-    while (bits_ >= 8) {
-      datos_.append(static_cast<char>(acumulado_ & 0xFF));
-      acumulado_ >>= 8;
-      bits_ -= 8;
-    }
-  }
-  QByteArray terminar() {
-    if (bits_ > 0)
-      datos_.append(static_cast<char>(acumulado_ & 0xFF));
-    acumulado_ = 0;
-    bits_ = 0;
-    return datos_;
-  }
-
- private:
-  QByteArray datos_;
-  quint32 acumulado_ = 0;
-  int bits_ = 0;
-};
-
-QByteArray ComprimirLzw(const QList<uchar>& indices) {
-  EscritorBits salida;
-  std::unordered_map<quint32, int> tabla;
-  int ancho = kBitsPorPixel + 1;
-  int siguiente = kPrimerCodigoLibre;
-  salida.escribir(kCodigoLimpiar, ancho);
-  int prefijo = indices.first();
-  for (qsizetype i = 1; i < indices.size(); ++i) {
-    const uchar k = indices.at(i);
-    const quint32 clave = (static_cast<quint32>(prefijo) << 8) | k;
-    const auto it = tabla.find(clave);
-    if (it != tabla.end()) {
-      prefijo = it->second;
-      continue;
-    }
-    salida.escribir(prefijo, ancho);
-    // The decoder learns each entry one code later than the encoder makes it, so the width
-    // grows once the next free code no longer fits, before that code is added.
-    if (siguiente >= (1 << ancho) && ancho < 12)
-      ++ancho;
-    if (siguiente >= kUltimoCodigo) {
-      salida.escribir(kCodigoLimpiar, ancho);
-      tabla.clear();
-      siguiente = kPrimerCodigoLibre;
-      ancho = kBitsPorPixel + 1;
-    } else {
-      tabla.emplace(clave, siguiente++);
-    }
-    prefijo = k;
-  }
-  salida.escribir(prefijo, ancho);
-  if (siguiente >= (1 << ancho) && ancho < 12)
-    ++ancho;
-  salida.escribir(kCodigoFin, ancho);
-  return salida.terminar();
-}
-
-void EscribirPalabra(QByteArray& destino, int valor) {
-  destino.append(static_cast<char>(valor & 0xFF));
-  destino.append(static_cast<char>((valor >> 8) & 0xFF));
+// giflib writes through this function into the QByteArray kept as the file's user data.
+int Anadir(GifFileType* archivo, const GifByteType* datos, int longitud) {
+  static_cast<QByteArray*>(archivo->UserData)
+      ->append(reinterpret_cast<const char*>(datos), longitud);
+  return longitud;
 }
 
 }  // namespace
@@ -135,31 +69,27 @@ QByteArray CodificarGif(const QImage& imagen) {
       indices.append(static_cast<uchar>(IndicePaleta(linea[x])));
   }
 
-  QByteArray gif("GIF89a");
-  EscribirPalabra(gif, rgb.width());
-  EscribirPalabra(gif, rgb.height());
-  gif.append(static_cast<char>(0xF7));  // global palette of 256 colours, 8 bits per primary
-  gif.append('\0');                     // background colour index
-  gif.append('\0');                     // square pixels
+  QByteArray gif;
+  int error = 0;
+  GifFileType* archivo = EGifOpen(&gif, Anadir, &error);
+  if (!archivo)
+    return {};
+  EGifSetGifVersion(archivo, true);  // GIF89a
+  QList<GifColorType> colores;
   for (QRgb c : PaletaGif()) {
-    gif.append(static_cast<char>(qRed(c)));
-    gif.append(static_cast<char>(qGreen(c)));
-    gif.append(static_cast<char>(qBlue(c)));
+    colores.append({static_cast<GifByteType>(qRed(c)), static_cast<GifByteType>(qGreen(c)),
+                    static_cast<GifByteType>(qBlue(c))});
   }
-  gif.append(',');  // image descriptor: the whole screen, not interlaced, no local palette
-  EscribirPalabra(gif, 0);
-  EscribirPalabra(gif, 0);
-  EscribirPalabra(gif, rgb.width());
-  EscribirPalabra(gif, rgb.height());
-  gif.append('\0');
-  gif.append(static_cast<char>(kBitsPorPixel));
-  const QByteArray datos = ComprimirLzw(indices);
-  for (qsizetype i = 0; i < datos.size(); i += 255) {
-    const QByteArray bloque = datos.mid(i, 255);
-    gif.append(static_cast<char>(bloque.size()));
-    gif.append(bloque);
+  ColorMapObject* paleta = GifMakeMapObject(int(colores.size()), colores.data());
+  bool bien = paleta && EGifPutScreenDesc(archivo, rgb.width(), rgb.height(), kBitsPorPixel, 0,
+                                          paleta) == GIF_OK;
+  bien =
+      bien && EGifPutImageDesc(archivo, 0, 0, rgb.width(), rgb.height(), false, nullptr) == GIF_OK;
+  for (int y = 0; bien && y < rgb.height(); ++y) {
+    bien = EGifPutLine(archivo, indices.data() + qsizetype(y) * rgb.width(), rgb.width()) == GIF_OK;
   }
-  gif.append('\0');
-  gif.append(';');  // trailer
+  GifFreeMapObject(paleta);
+  if (EGifCloseFile(archivo, &error) != GIF_OK || !bien)
+    return {};
   return gif;
 }

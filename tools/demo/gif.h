@@ -5,8 +5,9 @@
 #include <QList>
 #include <QRgb>
 
-// A small GIF89a writer for the default picture "defecto.gif": Qt reads GIF but cannot write it.
-// One image, no transparency, the fixed palette below and LZW compression with 8-bit pixels.
+// The GIF writer of the default picture "defecto.gif": Qt reads GIF but cannot write it, so the
+// picture is reduced to the fixed palette below and written by giflib, one image with no
+// transparency.
 
 // The fixed palette: the 216 colours of the 6x6x6 web cube (index = 36r + 6g + b, each level a
 // multiple of 51), then 40 greys that the cube lacks, from dark to light.

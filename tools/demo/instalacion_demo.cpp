@@ -70,17 +70,19 @@ Para probar
 )"_s.arg(QDir::toNativeSeparators(o.carpeta), o.terminal);
 }
 
-// Builds every file of the installation in `obra`; the options row names `destino`'s pictures.
-void Construir(const QString& obra, const QString& destino, const OpcionesDemo& o) {
+// Builds every file of the installation in `obra`.
+void Construir(const QString& obra, const OpcionesDemo& o) {
   const QDir dir(obra);
   if (!dir.mkpath(u"fotos"_s) || !dir.mkpath(u"ayuda"_s)) {
     throw std::runtime_error("cannot create the folders of the installation");
   }
   EscribirFotos(dir.filePath(u"fotos"_s));
   EscribirAyuda(dir.filePath(u"ayuda"_s));
-  const QString rutaFotos = QDir(destino).filePath(u"fotos"_s) + QDir::separator();
+  // Relative to the installation's folder, so that a copied or moved installation keeps its
+  // pictures.
+  const QString rutaFotos = u"fotos"_s + QDir::separator();
   CrearBase(dir.filePath(kPrincipal), TablasPrincipales(),
-            [&](Conexion& c) { LlenarBasePrincipal(c, rutaFotos, o.idioma); });
+            [&](Conexion& c) { LlenarBasePrincipal(c, rutaFotos, o.idioma, o.esquema); });
   CrearBase(dir.filePath(kInformes), TablasInformes(),
             [&](Conexion& c) { LlenarBaseInformes(c, o.terminal); });
   EscribirTexto(dir.filePath(kIni), TextoProductosIni());
@@ -144,7 +146,7 @@ ResultadoDemo CrearInstalacionDemo(const OpcionesDemo& opciones) {
             u"No se puede escribir en la carpeta %1."_s.arg(QDir::toNativeSeparators(destino))};
   }
   try {
-    Construir(obra.path(), destino, opciones);
+    Construir(obra.path(), opciones);
   } catch (const ErrorBD& e) {
     return {false, u"No se ha podido crear la base de datos: %1"_s.arg(e.descripcion())};
   } catch (const std::exception& e) {
@@ -168,10 +170,12 @@ std::optional<OpcionesDemo> LeerArgumentos(const QStringList& argumentos, QStrin
                                   u"idioma"_s, u"CASTELLANO"_s);
   const QCommandLineOption terminal(u"terminal"_s, u"Terminal: T1 (encargada) o T2 (prácticas)."_s,
                                     u"terminal"_s, u"T1"_s);
-  p.addOptions({reemplazar, idioma, terminal});
+  const QCommandLineOption esquema(u"esquema"_s, u"Esquema de color de los terminales (1 a 5)."_s,
+                                   u"esquema"_s, u"0"_s);
+  p.addOptions({reemplazar, idioma, terminal, esquema});
   p.addPositionalArgument(u"carpeta"_s, u"Carpeta de la instalación."_s);
   const QString uso =
-      u"Uso: productos-demo [--reemplazar] [--idioma IDIOMA] [--terminal T1|T2] "
+      u"Uso: productos-demo [--reemplazar] [--idioma IDIOMA] [--terminal T1|T2] [--esquema N] "
       "<carpeta>"_s;
   if (!p.parse(argumentos)) {
     if (error)
@@ -188,6 +192,7 @@ std::optional<OpcionesDemo> LeerArgumentos(const QStringList& argumentos, QStrin
   o.reemplazar = p.isSet(reemplazar);
   o.idioma = p.value(idioma).trimmed().toUpper();
   o.terminal = p.value(terminal).trimmed().toUpper();
+  o.esquema = p.value(esquema).toInt();
   if (o.idioma.isEmpty() || o.idioma.contains(u'\'')) {
     if (error)
       *error = u"El idioma no es válido."_s;

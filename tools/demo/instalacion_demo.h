@@ -12,6 +12,7 @@ struct OpcionesDemo {
   bool reemplazar = false;  // replace the files of an existing installation
   QString idioma = QStringLiteral("CASTELLANO");
   QString terminal = QStringLiteral("T1");  // T1 the manager's, T2 the trainee's
+  int esquema = 0;  // the colour scheme of the terminals (1 to 5); 0: each terminal's own
 };
 
 struct ResultadoDemo {
@@ -25,7 +26,8 @@ bool EsInstalacion(const QString& carpeta);
 // piece was written, so that a failure leaves the folder as it was. Needs a QGuiApplication.
 ResultadoDemo CrearInstalacionDemo(const OpcionesDemo& opciones);
 
-// The command line: "[--reemplazar] [--idioma IDIOMA] [--terminal T1|T2] <carpeta>". An error or
+// The command line: "[--reemplazar] [--idioma IDIOMA] [--terminal T1|T2] [--esquema N]
+// <carpeta>". An error or
 // the usage text goes to `error`.
 std::optional<OpcionesDemo> LeerArgumentos(const QStringList& argumentos, QString* error);
 
