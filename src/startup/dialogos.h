@@ -12,7 +12,8 @@
 class ServicioDialogos {
  public:
   enum class Icono { Ninguno, Informacion, Critico, Exclamacion, Pregunta };
-  enum class Botones { Aceptar, AceptarCancelar, SiNo, SiNoCancelar };
+  // SiNoPorDefectoNo: Yes and No, with No as the button that Enter presses.
+  enum class Botones { Aceptar, AceptarCancelar, SiNo, SiNoCancelar, SiNoPorDefectoNo };
   enum class Respuesta { Aceptar, Cancelar, Si, No };
 
   virtual ~ServicioDialogos() = default;

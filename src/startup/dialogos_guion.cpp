@@ -39,6 +39,8 @@ ServicioDialogos::Respuesta DialogosGuion::mensaje(const QString& texto, const Q
   llamadas_.append({u"mensaje"_s, texto, titulo, icono, botones});
   if (!respuestas_.isEmpty())
     return respuestas_.dequeue();
+  if (botones == Botones::SiNoPorDefectoNo)
+    return Respuesta::No;
   return botones == Botones::SiNo || botones == Botones::SiNoCancelar ? Respuesta::Si
                                                                       : Respuesta::Aceptar;
 }

@@ -10,7 +10,7 @@
 #include "dialogos.h"
 
 // A dialog service that answers from a script and records every call, for tests. An answer
-// that was not scripted is the first button of the box (as Enter would press it), an open-file
+// that was not scripted is the default button of the box (as Enter would press it), an open-file
 // dialog that was not scripted is cancelled, and so is a colour dialog.
 class DialogosGuion : public ServicioDialogos {
  public:

@@ -71,8 +71,11 @@ ServicioDialogos::Respuesta DialogosQt::mensaje(const QString& texto, const QStr
       cancelar = boton(u"Cancelar"_s, QMessageBox::RejectRole);
       break;
     case Botones::SiNo:
+    case Botones::SiNoPorDefectoNo:
       si = boton(u"Sí"_s, QMessageBox::YesRole);
       no = boton(u"No"_s, QMessageBox::NoRole);
+      if (botones == Botones::SiNoPorDefectoNo)
+        caja.setDefaultButton(static_cast<QPushButton*>(no));
       break;
     case Botones::SiNoCancelar:
       si = boton(u"Sí"_s, QMessageBox::YesRole);
@@ -89,7 +92,8 @@ ServicioDialogos::Respuesta DialogosQt::mensaje(const QString& texto, const QStr
   if (pulsado && pulsado == aceptar)
     return Respuesta::Aceptar;
   Q_UNUSED(cancelar);
-  return botones == Botones::SiNo ? Respuesta::No : Respuesta::Cancelar;
+  return botones == Botones::SiNo || botones == Botones::SiNoPorDefectoNo ? Respuesta::No
+                                                                          : Respuesta::Cancelar;
 }
 
 QString DialogosQt::abrirArchivo(const QString& titulo, const QString& carpeta,

@@ -41,6 +41,10 @@ class FormularioPrueba {
   std::unique_ptr<FrmProductos1024> forma_;
 };
 
+// The rows of the installation that every form test starts with: its options, the terminal's
+// row and colour scheme, and its captions gathered already.
+QStringList FilasDeLaInstalacion();
+
 // The insert of a live product shown on the till, with the given columns (SQL literals) over
 // the defaults: cost 1, price 2, tax 10, no family, sale product prepared at the bar, in units.
 QString Producto(const QString& codigo, const QString& nombre,
