@@ -251,6 +251,27 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   QVERIFY(Lineas(f, u"lb_ProductosElaborados"_s).contains(LineaLista(nombre, u"40001"_s)));
   QVERIFY(!f.control<QPushButton>(u"cmd_AceptarProdEl"_s)->isEnabled());
 
+  if (!tacto) {
+    // The keys walk the elaborated products as the arrows walk the simple ones; the list follows.
+    auto* elaborado = f.control<QLineEdit>(u"txt_NombreElaborado"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home, Qt::ControlModifier);
+    const QString primero = elaborado->text();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
+    QVERIFY(elaborado->text() != primero);
+    QVERIFY(f.control<QListWidget>(u"lb_ProductosElaborados"_s)
+                ->currentItem()
+                ->text()
+                .startsWith(elaborado->text()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
+    QCOMPARE(elaborado->text(), primero);
+    if (primero != nombre)
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    QVERIFY(f.dialogos()
+                .llamadasDe(u"abrirDocumento"_s)
+                .last()
+                .texto.endsWith(u"A_ProductosElaborados.html"_s));
+  }
   // One quantity changes: the row is rewritten, the recipe replaced, the stock left alone.
   Activar(f, u"cmd_ModificarProdEla"_s, tacto, Qt::Key_F2);
   Capturar(f, u"elaborados_cambios"_s);
