@@ -18,6 +18,7 @@
 #include "estado_formulario.h"
 #include "grabacion_producto.h"
 #include "importes.h"
+#include "lista_productos_form.h"
 #include "listas_componentes.h"
 #include "listas_productos.h"
 #include "modos.h"
@@ -74,6 +75,8 @@ Elaborados::Elaborados(Entorno& entorno, EstadoFormulario& estado, ControlesForm
 
 void Elaborados::conectar() {
   PantallaElaborados& e = c_.elab;
+  // The recipe's lines are touched too, to change a quantity.
+  HacerListaTactil(e.lb_ProductosSel);
   visualizacion_.cargarIngredientes = [this](const QString& codigo) { CargarIngredientes(codigo); };
   importes_.aceptarCantidad = [this](double cantidad) { completarComponente(cantidad); };
   importes_.descartarCantidad = [this] { descartarComponente(); };
