@@ -90,6 +90,8 @@ void Elaborados::conectar() {
   connect(e.bt_flecha, &QPushButton::clicked, this, &Elaborados::ElegirComponente);
   connect(e.lb_ProductosSel, &QListWidget::itemDoubleClicked, this, &Elaborados::CambiarComponente);
   connect(e.lb_ProductosSel, &QListWidget::itemActivated, this, &Elaborados::CambiarComponente);
+  connect(c_.marcos.cmd_QuitarComponente, &QPushButton::clicked, this,
+          &Elaborados::descartarComponente);
   connect(e.cmd_NuevoProdEla, &QPushButton::clicked, this, &Elaborados::cmd_NuevoProdEla);
   connect(e.cmd_AceptarProdEl, &QPushButton::clicked, this, &Elaborados::cmd_AceptarProdEl);
   connect(e.cmd_EliminarProdEla, &QPushButton::clicked, this, &Elaborados::cmd_EliminarProdEla);

@@ -41,8 +41,7 @@ class FormularioPrueba {
   std::unique_ptr<FrmProductos1024> forma_;
 };
 
-// The rows of the installation that every form test starts with: its options, the terminal's
-// row and colour scheme, and its captions gathered already.
+// The installation's rows that every form test starts with (options, terminal, colours).
 QStringList FilasDeLaInstalacion();
 
 // The insert of a live product shown on the till, with the given columns (SQL literals) over

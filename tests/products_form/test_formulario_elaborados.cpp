@@ -51,10 +51,9 @@ QStringList Catalogo() {
 QList<QStringList> Textos(FormularioPrueba& f, const QString& consulta) {
   QList<QStringList> r;
   for (const QVariantList& fila : f.inst().filas(consulta)) {
-    QStringList textos;
+    r.append(QStringList());
     for (const QVariant& v : fila)
-      textos.append(v.isNull() ? u"NULL"_s : v.toString());
-    r.append(textos);
+      r.last().append(v.isNull() ? u"NULL"_s : v.toString());
   }
   return r;
 }
@@ -73,29 +72,25 @@ void Tabular(QWidget* destino) {
   QCOMPARE(QApplication::focusWidget(), destino);
 }
 
-// A manager's hand on a button: a touch, or the key that presses it (Tab and Space without one).
+// A manager's hand on a control: a touch, or its key (Tab and Space for a button without one).
 void Activar(FormularioPrueba& f, const QString& boton, bool tacto, Qt::Key tecla = Qt::Key_Space) {
-  auto* b = f.control<QAbstractButton>(boton);
+  auto* b = f.control<QWidget>(boton);
   QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(boton));
-  if (tacto) {
-    QTest::mouseClick(b, Qt::LeftButton);
-  } else if (tecla == Qt::Key_Space) {
+  if (tacto)
+    return QTest::mouseClick(b, Qt::LeftButton);
+  if (tecla == Qt::Key_Space)
     Tabular(b);
-    QTest::keyClick(b, tecla);
-  } else {
-    QTest::keyClick(QApplication::focusWidget(), tecla);
-  }
+  QTest::keyClick(QApplication::focusWidget(), tecla);
 }
 
-// Types into a field with the on-screen keyboard after touching it, or with the keys after
-// reaching it with Tab (the field with the focus already, such as the quantity, stays).
+// Types into a field: touched, with the on-screen keyboard; or reached with Tab, with the keys.
 void Teclear(FormularioPrueba& f, const QString& campo, const QString& texto, bool tacto) {
   auto* c = f.control<QLineEdit>(campo);
   QVERIFY2(c->isVisible(), qPrintable(campo));
-  if (tacto && QApplication::focusWidget() != c)
-    QTest::mouseClick(c, Qt::LeftButton);
   if (!tacto)
     Tabular(c);
+  else if (QApplication::focusWidget() != c)
+    QTest::mouseClick(c, Qt::LeftButton);
   for (QChar letra : texto) {
     if (tacto)
       Pulsar(f, u"bt_letra_%1"_s.arg(letra.unicode()));
@@ -105,8 +100,7 @@ void Teclear(FormularioPrueba& f, const QString& campo, const QString& texto, bo
   QCOMPARE(c->text(), texto);
 }
 
-// Takes a line of a list (by the start of its text) as the quantity's subject: one touch and
-// the arrow, a double touch on the recipe, or Tab, the first letters and Enter.
+// Takes a line of a list for its quantity: a touch and the arrow, a double touch, or Enter.
 void Elegir(FormularioPrueba& f, const QString& lista, const QString& inicio, bool tacto) {
   auto* l = f.control<QListWidget>(lista);
   if (!tacto) {
@@ -115,25 +109,20 @@ void Elegir(FormularioPrueba& f, const QString& lista, const QString& inicio, bo
     for (int i = 0; i < l->count() && !l->currentItem()->text().startsWith(inicio); ++i)
       QTest::keyClick(l, Qt::Key_Down);
     QTest::keyClick(l, Qt::Key_Return);
-  } else if (lista == u"lb_Productos"_s) {
-    TocarLinea(f, lista, inicio);
-    Pulsar(f, u"bt_flecha"_s);
   } else {
-    const QList<QListWidgetItem*> lineas = l->findItems(inicio, Qt::MatchStartsWith);
-    QCOMPARE(lineas.size(), 1);
-    const QPoint centro = l->visualItemRect(lineas.first()).center();
-    QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, centro);
-    QTest::mouseDClick(l->viewport(), Qt::LeftButton, {}, centro);
+    TocarLinea(f, lista, inicio);
+    if (lista == u"lb_Productos"_s)
+      Pulsar(f, u"bt_flecha"_s);
+    else
+      QTest::mouseDClick(l->viewport(), Qt::LeftButton, {},
+                         l->visualItemRect(l->currentItem()).center());
   }
   QTRY_VERIFY(f.control<QWidget>(u"fr_Cantidad"_s)->isVisible());
 }
 
 void Cantidad(FormularioPrueba& f, const QString& cantidad, bool tacto) {
   Teclear(f, u"txt_Cantidad"_s, cantidad, tacto);
-  if (tacto)
-    Pulsar(f, u"bt_letra_13"_s);
-  else
-    QTest::keyClick(f.control<QLineEdit>(u"txt_Cantidad"_s), Qt::Key_Return);
+  Activar(f, tacto ? u"bt_letra_13"_s : u"txt_Cantidad"_s, tacto, Qt::Key_Return);
   QVERIFY(!f.control<QWidget>(u"fr_Cantidad"_s)->isVisible());
 }
 
@@ -161,23 +150,19 @@ void TestFormularioElaborados::initTestCase() {
 void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria_data() {
   QTest::addColumn<bool>("postgres");
   QTest::addColumn<bool>("tacto");
-  QTest::addColumn<QString>("nombre");  // the on-screen keyboard has capitals without accents
-  QTest::addColumn<QString>("zona");
-  QTest::addColumn<QString>("hechoen");
-  const QString barra = u"optBarraElab"_s;
-  const QString cocina = u"optCocinaElab"_s;
-  QTest::newRow("SQLite, tacto") << false << true << u"SANGRIA"_s << barra << u"1"_s;
-  QTest::newRow("SQLite, teclado") << false << false << u"Sangría"_s << cocina << u"2"_s;
-  QTest::newRow("PostgreSQL, tacto") << true << true << u"SANGRIA"_s << barra << u"1"_s;
-  QTest::newRow("PostgreSQL, teclado") << true << false << u"Sangría"_s << cocina << u"2"_s;
+  QTest::newRow("SQLite, tacto") << false << true;
+  QTest::newRow("SQLite, teclado") << false << false;
+  QTest::newRow("PostgreSQL, tacto") << true << true;
+  QTest::newRow("PostgreSQL, teclado") << true << false;
 }
 
 void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   QFETCH(bool, postgres);
   QFETCH(bool, tacto);
-  QFETCH(QString, nombre);
-  QFETCH(QString, zona);
-  QFETCH(QString, hechoen);
+  // The on-screen keyboard has capitals without accents. By touch the sangría is served at the
+  // bar, by keyboard it is prepared in the kitchen.
+  const QString nombre = tacto ? u"SANGRIA"_s : u"Sangría"_s;
+  const QString hechoen = tacto ? u"1"_s : u"2"_s;
   FormularioPrueba f;
   if (postgres) {
     static int bases = 0;
@@ -189,14 +174,19 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   f.inst().ejecutar(Catalogo());
   QVERIFY(f.mostrar());
   Activar(f, u"cmd_ProdElaborado"_s, tacto);
-  // The tapa with its recipe, as the till makes it.
   QCOMPARE(f.control<QLineEdit>(u"txt_NombreElaborado"_s)->text(), u"Pincho de tortilla"_s);
   QStringList receta0 = Lineas(f, u"lb_ProductosSel"_s);
   receta0.sort();
   QCOMPARE(receta0, (QStringList{LineaLista(u"Huevo (4) "_s, u"5"_s),
                                  LineaLista(u"Vino tinto de la casa (0,5) "_s, u"1"_s)}));
-  Capturar(f, u"elaborados_navegacion"_s);
 
+  if (!tacto) {
+    // Page Down past the only elaborated product says so, as the arrows do; F1 is its help.
+    Activar(f, u"txt_NombreElaborado"_s, tacto, Qt::Key_PageDown);
+    Activar(f, u"txt_NombreElaborado"_s, tacto, Qt::Key_F1);
+    QCOMPARE(f.dialogos().mensajes(), QStringList{u"Último Registro"_s});
+    QVERIFY(f.dialogos().llamadasDe(u"abrirDocumento"_s).first().texto.endsWith(u"dos.html"_s));
+  }
   Activar(f, u"cmd_NuevoProdEla"_s, tacto, Qt::Key_Insert);
   QVERIFY(!f.control<QWidget>(u"txt_costeElaborado"_s)->isVisible());
   Teclear(f, u"txt_NombreElaborado"_s, nombre, tacto);
@@ -205,24 +195,20 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   Teclear(f, u"txt_PrecioElaborado"_s, u"6"_s, tacto);
   QCOMPARE(f.control<QLabel>(u"lblpospelab"_s)->text(), u"5"_s);
   Activar(f, u"bt_sigpelab"_s, tacto);
-  // Where it is prepared opens the components.
   QVERIFY(!f.control<QWidget>(u"lb_Productos"_s)->isEnabled());
-  Activar(f, zona, tacto);
+  Activar(f, tacto ? u"optBarraElab"_s : u"optCocinaElab"_s, tacto);
   Elegir(f, u"lb_Productos"_s, u"Vino"_s, tacto);
   QCOMPARE(f.control<QLabel>(u"lbl_Cantidad"_s)->text(),
            u"¿Cuantos "_s + nombre + u" podria elaborar con un Litros de Vino tinto de l?"_s);
-  QVERIFY(!Lineas(f, u"lb_Productos"_s).contains(LineaLista(u"Vino tinto de la casa"_s, u"1"_s)));
-  Capturar(f, u"elaborados_cantidad"_s);
   Cantidad(f, u"8"_s, tacto);
-  if (!tacto) {
-    // Enter with a quantity of 0 does nothing; Escape takes the component out of both lists.
-    Elegir(f, u"lb_Productos"_s, u"Hu"_s, tacto);
-    QTest::keyClick(f.control<QLineEdit>(u"txt_Cantidad"_s), Qt::Key_Return);
-    QVERIFY(f.control<QWidget>(u"fr_Cantidad"_s)->isVisible());
-    QTest::keyClick(f.control<QLineEdit>(u"txt_Cantidad"_s), Qt::Key_Escape);
-    QVERIFY(!Lineas(f, u"lb_Productos"_s).join(u""_s).contains(u"Huevo"_s));
-    QVERIFY(!Lineas(f, u"lb_ProductosSel"_s).join(u""_s).contains(u"Huevo"_s));
-  }
+  // Enter with a quantity of 0 does nothing; Escape (Quitar by touch) takes the component out.
+  Elegir(f, u"lb_Productos"_s, u"Hu"_s, tacto);
+  Activar(f, tacto ? u"bt_letra_13"_s : u"txt_Cantidad"_s, tacto, Qt::Key_Return);
+  QVERIFY(f.control<QWidget>(u"fr_Cantidad"_s)->isVisible());
+  Activar(f, u"cmd_QuitarComponente"_s, tacto, Qt::Key_Escape);
+  QVERIFY(!(Lineas(f, u"lb_Productos"_s) + Lineas(f, u"lb_ProductosSel"_s))
+               .join(u""_s)
+               .contains(u"Huevo"_s));
   Elegir(f, u"lb_Productos"_s, u"Li"_s, tacto);
   Cantidad(f, u"4"_s, tacto);
   Elegir(f, u"lb_Productos"_s, u"Az"_s, tacto);
@@ -230,15 +216,15 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   // A button of the till needs its colour: the first accept asks for it.
   f.dialogos().siguienteColor(QColor(255, 0, 0));
   Activar(f, u"cmd_AceptarProdEl"_s, tacto, Qt::Key_F10);
-  QCOMPARE(f.dialogos().llamadasDe(u"elegirColor"_s).size(), 1);
   Activar(f, u"cmd_AceptarProdEl"_s, tacto, Qt::Key_F10);
 
-  const QString hoy = QDate::currentDate().toString(Qt::ISODate);
   const QString producto = kColumnasProducto + u"where codigo = '40001'"_s;
-  QStringList fila = {u"40001"_s, nombre,    u""_s,   u"NULL"_s, u"-1"_s,   u"2.5"_s,
-                      u"NULL"_s,  u"6"_s,    u"10"_s, hoy,       u"NULL"_s, u"255"_s,
-                      u"NULL"_s,  u"NULL"_s, u"0"_s,  u"NULL"_s, hechoen,   u"3"_s,
-                      u"40001"_s, u"6"_s,    u"0"_s,  u"NULL"_s, u"0"_s};
+  QStringList fila = {
+      u"40001"_s, nombre,    u""_s,     u"NULL"_s,  u"-1"_s,
+      u"2.5"_s,   u"NULL"_s, u"6"_s,    u"10"_s,    QDate::currentDate().toString(Qt::ISODate),
+      u"NULL"_s,  u"255"_s,  u"NULL"_s, u"NULL"_s,  u"0"_s,
+      u"NULL"_s,  hechoen,   u"3"_s,    u"40001"_s, u"6"_s,
+      u"0"_s,     u"NULL"_s, u"0"_s};
   QCOMPARE(Textos(f, producto), QList<QStringList>{fila});
   const QString stock = kColumnasStock + u"where Producto = 40001"_s;
   QCOMPARE(Textos(f, stock), (QList<QStringList>{{u"40001"_s, u"0"_s, u"NULL"_s, u"NULL"_s}}));
@@ -249,32 +235,9 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
                                {u"40001"_s, u"3"_s, u"10"_s}};
   QCOMPARE(Textos(f, kReceta), receta);
   QVERIFY(Lineas(f, u"lb_ProductosElaborados"_s).contains(LineaLista(nombre, u"40001"_s)));
-  QVERIFY(!f.control<QPushButton>(u"cmd_AceptarProdEl"_s)->isEnabled());
 
-  if (!tacto) {
-    // The keys walk the elaborated products as the arrows walk the simple ones; the list follows.
-    auto* elaborado = f.control<QLineEdit>(u"txt_NombreElaborado"_s);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home, Qt::ControlModifier);
-    const QString primero = elaborado->text();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
-    QVERIFY(elaborado->text() != primero);
-    QVERIFY(f.control<QListWidget>(u"lb_ProductosElaborados"_s)
-                ->currentItem()
-                ->text()
-                .startsWith(elaborado->text()));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
-    QCOMPARE(elaborado->text(), primero);
-    if (primero != nombre)
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
-    QVERIFY(f.dialogos()
-                .llamadasDe(u"abrirDocumento"_s)
-                .last()
-                .texto.endsWith(u"A_ProductosElaborados.html"_s));
-  }
   // One quantity changes: the row is rewritten, the recipe replaced, the stock left alone.
   Activar(f, u"cmd_ModificarProdEla"_s, tacto, Qt::Key_F2);
-  Capturar(f, u"elaborados_cambios"_s);
   Elegir(f, u"lb_ProductosSel"_s, u"Li"_s, tacto);
   Cantidad(f, u"6"_s, tacto);
   Activar(f, u"cmd_AceptarProdEl"_s, tacto, Qt::Key_F10);
@@ -294,10 +257,7 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   QVERIFY(Textos(f, stock).isEmpty());
   QCOMPARE(Textos(f, kReceta), receta);  // the recipe stays, as the suite keeps it
   QVERIFY(!Lineas(f, u"lb_ProductosElaborados"_s).contains(LineaLista(nombre, u"40001"_s)));
-  QCOMPARE(f.control<QLineEdit>(u"txt_NombreElaborado"_s)->text(), u"Pincho de tortilla"_s);
-  QVERIFY2(f.inst().erroresMostrados().isEmpty(),
-           qPrintable(f.inst().erroresMostrados().value(0).first +
-                      f.inst().erroresMostrados().value(0).second));
+  QVERIFY(f.inst().erroresMostrados().isEmpty());
 }
 
 void TestFormularioElaborados::unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaban_data() {
@@ -316,8 +276,10 @@ void TestFormularioElaborados::unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaba
   FormularioPrueba f(Catalogo());
   QVERIFY(f.mostrar());
   Pulsar(f, u"cmd_ProdElaborado"_s);
-  const QList<QStringList> antes =
-      Textos(f, kColumnasProducto) + Textos(f, kColumnasStock) + Textos(f, kReceta);
+  const auto filas = [&f] {
+    return Textos(f, kColumnasProducto) + Textos(f, kColumnasStock) + Textos(f, kReceta);
+  };
+  const QList<QStringList> antes = filas();
   Pulsar(f, u"cmd_ModificarProdEla"_s);
   Escribir(f, u"txt_NombreElaborado"_s, nombre);
   if (!componente.isEmpty()) {
@@ -326,9 +288,8 @@ void TestFormularioElaborados::unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaba
   }
   Pulsar(f, u"cmd_AceptarProdEl"_s);
   QCOMPARE(f.inst().erroresMostrados().size(), 1);
-  QCOMPARE(f.inst().erroresMostrados().first().first, contexto);
   QVERIFY(f.inst().log().startsWith((contexto + u", Descripcion: "_s).toLatin1()));
-  QCOMPARE(Textos(f, kColumnasProducto) + Textos(f, kColumnasStock) + Textos(f, kReceta), antes);
+  QCOMPARE(filas(), antes);
   // Still in change mode, with what the manager typed.
   QVERIFY(f.control<QPushButton>(u"cmd_AceptarProdEl"_s)->isEnabled());
   QCOMPARE(f.control<QLineEdit>(u"txt_NombreElaborado"_s)->text(), nombre);

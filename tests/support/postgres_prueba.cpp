@@ -17,7 +17,6 @@
 #include <QStandardPaths>
 #include <algorithm>
 
-#include "conexion.h"
 #include "instalacion_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;

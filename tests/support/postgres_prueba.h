@@ -49,8 +49,6 @@ class PostgresPrueba {
   QString error_;
 };
 
-// The suite's connection string for its main data source.
 inline const QString kCadenaVelandria = QStringLiteral("dsn=velandria;pwd=KorvanitesX%QQRT;");
-// Puts an installation's shared connection, by that string, on a database of the test server,
-// for a restaurant.
+// Puts an installation's shared connection on a test server's database, for a restaurant.
 void UsarPostgres(InstalacionPrueba& inst, const OrigenDatos& origen);
