@@ -22,7 +22,6 @@ const QString kReceta =
     u"select productopadre, productohijo, cantidad from productoElaborado_producto order by "
     "productopadre, productohijo"_s;
 
-// A product with its numeric description and unit, and its stock row.
 QStringList ConStock(const QString& codigo, const QString& nombre, const QString& unidad,
                      const QList<QPair<QString, QString>>& otras = {}) {
   return {Producto(codigo, nombre,
@@ -65,7 +64,6 @@ QStringList Lineas(FormularioPrueba& f, const QString& lista) {
   return r;
 }
 
-// Moves the focus with Tab alone until it reaches the control.
 void Tabular(QWidget* destino) {
   for (int i = 0; i < 400 && QApplication::focusWidget() != destino; ++i)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -185,7 +183,8 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
     Activar(f, u"txt_NombreElaborado"_s, tacto, Qt::Key_PageDown);
     Activar(f, u"txt_NombreElaborado"_s, tacto, Qt::Key_F1);
     QCOMPARE(f.dialogos().mensajes(), QStringList{u"Último Registro"_s});
-    QVERIFY(f.dialogos().llamadasDe(u"abrirDocumento"_s).first().texto.endsWith(u"dos.html"_s));
+    QVERIFY(
+        f.dialogos().llamadasDe(u"abrirDocumento"_s).first().texto.endsWith(u"Elaborados.html"_s));
   }
   Activar(f, u"cmd_NuevoProdEla"_s, tacto, Qt::Key_Insert);
   QVERIFY(!f.control<QWidget>(u"txt_costeElaborado"_s)->isVisible());
@@ -290,8 +289,7 @@ void TestFormularioElaborados::unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaba
   QCOMPARE(f.inst().erroresMostrados().size(), 1);
   QVERIFY(f.inst().log().startsWith((contexto + u", Descripcion: "_s).toLatin1()));
   QCOMPARE(filas(), antes);
-  // Still in change mode, with what the manager typed.
-  QVERIFY(f.control<QPushButton>(u"cmd_AceptarProdEl"_s)->isEnabled());
+  QVERIFY(f.control<QPushButton>(u"cmd_AceptarProdEl"_s)->isEnabled());  // still changing
   QCOMPARE(f.control<QLineEdit>(u"txt_NombreElaborado"_s)->text(), nombre);
   QCOMPARE(Lineas(f, u"lb_ProductosSel"_s).size(), componente.isEmpty() ? 2 : 3);
 }
