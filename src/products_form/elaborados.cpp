@@ -235,13 +235,7 @@ void Elaborados::limpiar() {
     vacio->clear();
   for (QLineEdit* cero : {e.txt_costeElaborado, e.txt_ImpuestoElaborado, e.txt_PrecioElaborado})
     cero->setText(u"0"_s);
-  estado_.fotoElegida.clear();
-  estado_.colorElegido.clear();
-  estado_.impresoraElegida.clear();
-  e.pic_ProductoElaborado->clear();
-  e.pic_ProductoElaborado->setProperty("archivo", QString());
-  MostrarColor(e.pic_Color, QString());
-  c_.marcos.lblNomProd->clear();
+  OlvidarElecciones(estado_, e.pic_ProductoElaborado, e.pic_Color, c_.marcos.lblNomProd);
   DesmarcarOpcion(e.optCocinaElab);
   DesmarcarOpcion(e.optBarraElab);
   PonerFamilia(e.lblNomFamilia_elab, QString(), u"-1"_s);

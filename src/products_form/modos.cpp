@@ -266,13 +266,7 @@ void Modos::limpiarNuevoGenerico() {
     cero->setText(u"0"_s);
   }
   g.txt_stock_minimo->setText(u"1"_s);
-  estado_.fotoElegida.clear();
-  estado_.colorElegido.clear();
-  estado_.impresoraElegida.clear();
-  g.pict_imagen->clear();
-  g.pict_imagen->setProperty("archivo", QString());
-  MostrarColor(g.pic_ColorPG, QString());
-  c_.marcos.lblNomProd->clear();
+  OlvidarElecciones(estado_, g.pict_imagen, g.pic_ColorPG, c_.marcos.lblNomProd);
   g.cbo_Medida->setCurrentIndex(-1);
   DesmarcarOpcion(g.optCocina);
   DesmarcarOpcion(g.optBarra);
