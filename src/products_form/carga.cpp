@@ -10,6 +10,7 @@
 #include <exception>
 #include <functional>
 
+#include "carga_dialogo.h"
 #include "color_vb.h"
 #include "colorear.h"
 #include "entorno.h"
@@ -68,15 +69,7 @@ void colorearme(Entorno& entorno, EstadoFormulario& estado, ControlesFormulario&
   if (esquema.size() > kElementoFondoEntrada) {
     estado.colorCampo = ColorDesdeTexto(esquema.at(kElementoFondoEntrada));
   }
-  // The panels' areas take the scheme's zoom colours, as the till's panels do.
-  const QColor principal = ColorDesdeTexto(colorear.get_ColorZoom1());
-  const QColor secundario = ColorDesdeTexto(colorear.get_ColorZoom2());
-  for (PanelObjNuevo* panel : {c.gen.PanelFamilias, c.elab.PanelFamilias_Elab}) {
-    if (principal.isValid())
-      panel->set_fondo_principal(ValorDeColor(principal));
-    if (secundario.isValid())
-      panel->set_fondo_secundario(ValorDeColor(secundario));
-  }
+  ColorearPaneles(colorear, {c.gen.PanelFamilias, c.elab.PanelFamilias_Elab});
 }
 
 }  // namespace

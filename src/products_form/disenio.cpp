@@ -10,7 +10,9 @@
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStyleFactory>
+#include <QStyledItemDelegate>
 
 #include "colorear.h"
 #include "panel_obj_nuevo.h"
@@ -25,6 +27,31 @@ T* Colocar(T* control, const QString& nombre, const QRect& geometria) {
   control->setGeometry(geometria);
   return control;
 }
+
+constexpr int kAnchoBarra = 40;
+
+class EstiloListaTactil : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int pixelMetric(PixelMetric metrica, const QStyleOption* opcion,
+                  const QWidget* control) const override {
+    if (metrica == PM_ScrollBarExtent)
+      return kAnchoBarra;
+    return QProxyStyle::pixelMetric(metrica, opcion, control);
+  }
+};
+
+class FilaTactil : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override {
+    QSize tamano = QStyledItemDelegate::sizeHint(opcion, indice);
+    tamano.setHeight(qMax(tamano.height(), disenio::kAltoToque));
+    return tamano;
+  }
+};
 
 }  // namespace
 
@@ -214,4 +241,12 @@ AvisosPantalla CrearAvisosPantalla(QWidget* m, const QStringList& n) {
   a.numero->setWordWrap(true);
   PonerLetra(a.numero, disenio::kLetra, true);
   return a;
+}
+
+void HacerListaTactil(QListWidget* lista) {
+  auto* estilo = new EstiloListaTactil(QStyleFactory::create(lista->style()->name()));
+  estilo->setParent(lista);
+  lista->setStyle(estilo);
+  lista->verticalScrollBar()->setStyle(estilo);
+  lista->setItemDelegate(new FilaTactil(lista));
 }

@@ -52,6 +52,10 @@ QLabel* CrearImagen(QWidget* padre, const QString& nombre, const QRect& geometri
 QGroupBox* CrearMarco(QWidget* padre, const QString& nombre, const QString& titulo,
                       const QRect& geometria);
 
+// Makes a list easy to work with a finger: rows at least as high as a touch target and a scroll
+// bar as wide as one.
+void HacerListaTactil(QListWidget* lista);
+
 // Sets a widget's type size in points, and bold when asked.
 void PonerLetra(QWidget* control, int puntos, bool negrita = false);
 // Paints the background of a field or button as the colour scheme does (the focus colour and

@@ -6,6 +6,7 @@
 
 #include "alta_producto.h"
 #include "atajos_teclado.h"
+#include "buscar.h"
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
@@ -13,6 +14,7 @@
 #include "entorno.h"
 #include "eventos_campos.h"
 #include "filtro_teclas.h"
+#include "frm_add_subproductos.h"
 #include "imagen_color.h"
 #include "importes.h"
 #include "lista_productos_form.h"
@@ -101,6 +103,18 @@ void FrmProductos1024::conectar() {
   new AtajosTeclado(this);
   // After the shortcuts: the elaborated screen sees its keys first.
   elaborados->conectar();
+  conectarDialogos();
+}
+
+void FrmProductos1024::conectarDialogos() {
+  connect(controles_.gen.cmd_buscar, &QPushButton::clicked, this, [this] {
+    AbrirBuscar(
+        entorno_, kModoProductos, [this](const QString& c) { ProductoBuscado(c); }, this);
+  });
+  for (QPushButton* subproductos : {controles_.gen.Command1, controles_.elab.Command4}) {
+    connect(subproductos, &QPushButton::clicked, this,
+            [this] { AbrirSubproductos(entorno_, tablas_, this); });
+  }
 }
 
 void FrmProductos1024::ProductoBuscado(const QString& codigo) {

@@ -42,6 +42,8 @@ class FrmProductos1024 : public QWidget {
  private:
   void construir();
   void conectar();
+  // The search dialog behind cmd_buscar and the sub-products dialog behind Command1 and Command4.
+  void conectarDialogos();
 
   Entorno& entorno_;
   TablasPanel& tablas_;

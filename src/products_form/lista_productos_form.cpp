@@ -3,54 +3,13 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QListWidget>
-#include <QProxyStyle>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QStyleFactory>
-#include <QStyledItemDelegate>
 
 #include "disenio.h"
 #include "listas_productos.h"
 #include "visualizacion.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-constexpr int kAnchoBarra = 40;
-
-class EstiloListaTactil : public QProxyStyle {
- public:
-  using QProxyStyle::QProxyStyle;
-
-  int pixelMetric(PixelMetric metrica, const QStyleOption* opcion,
-                  const QWidget* control) const override {
-    if (metrica == PM_ScrollBarExtent)
-      return kAnchoBarra;
-    return QProxyStyle::pixelMetric(metrica, opcion, control);
-  }
-};
-
-class FilaTactil : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  QSize sizeHint(const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override {
-    QSize tamano = QStyledItemDelegate::sizeHint(opcion, indice);
-    tamano.setHeight(qMax(tamano.height(), disenio::kAltoToque));
-    return tamano;
-  }
-};
-
-}  // namespace
-
-void HacerListaTactil(QListWidget* lista) {
-  auto* estilo = new EstiloListaTactil(QStyleFactory::create(lista->style()->name()));
-  estilo->setParent(lista);
-  lista->setStyle(estilo);
-  lista->verticalScrollBar()->setStyle(estilo);
-  lista->setItemDelegate(new FilaTactil(lista));
-}
 
 ListaProductosForm::ListaProductosForm(Entorno& entorno, ControlesFormulario& controles,
                                        Visualizacion& visualizacion, QObject* padre)

@@ -11,10 +11,6 @@ struct Entorno;
 class QListWidget;
 class Visualizacion;
 
-// Makes a list of the form easy to work with a finger: rows at least as high as a touch target
-// and a scroll bar as wide as one.
-void HacerListaTactil(QListWidget* lista);
-
 // The pop-up list of products over the simple products' screen: cmd_ListaProd opens it with
 // every live product and closes it again; cmdCocina and cmdBarra fill it with the products for
 // internal use or for sale; a double-click on a line shows that product and closes the list.

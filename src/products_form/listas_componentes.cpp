@@ -3,9 +3,9 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "disenio.h"
 #include "entorno.h"
 #include "error_bd.h"
-#include "lista_productos_form.h"
 #include "listas_productos.h"
 #include "modos.h"
 #include "recordset.h"

@@ -32,8 +32,8 @@ std::optional<QStringList> LeerLineas(Entorno& entorno, const QString& sentencia
 
 }  // namespace
 
-QString LineaLista(const QString& nombre, const QString& codigo) {
-  return nombre + QString(kBlancosLinea, u' ') + codigo;
+QString LineaLista(const QString& nombre, const QString& codigo, int blancos) {
+  return nombre + QString(blancos, u' ') + codigo;
 }
 
 QString CodigoDeLineaLista(const QString& linea) {

@@ -19,8 +19,8 @@ inline const QString kContextoListaPorTipo = QStringLiteral("ListaProductos  2")
 inline const QString kMensajeSinProductos = QStringLiteral("No hay productos dados de alta.");
 inline const QString kTituloSinProductos = QStringLiteral("ATENCION");
 
-// A list line: the name, exactly 120 blanks and the code.
-QString LineaLista(const QString& nombre, const QString& codigo);
+// A list line: the name, exactly 120 blanks (or as many as given) and the code.
+QString LineaLista(const QString& nombre, const QString& codigo, int blancos = kBlancosLinea);
 // The code of a product line: its last 10 characters without surrounding blanks.
 QString CodigoDeLineaLista(const QString& linea);
 

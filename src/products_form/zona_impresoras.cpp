@@ -9,10 +9,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "disenio.h"
 #include "entorno.h"
 #include "estado_formulario.h"
 #include "impresoras_producto.h"
-#include "lista_productos_form.h"
 
 using namespace Qt::Literals::StringLiterals;
 

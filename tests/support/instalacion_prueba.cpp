@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "esquema.h"
+#include "postgres_prueba.h"
 #include "recordset.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,6 +54,18 @@ QString InstalacionPrueba::rutaPrincipal() const {
 
 QString InstalacionPrueba::rutaInformes() const {
   return QDir(dir_.path()).filePath(u"informes.db"_s);
+}
+
+bool InstalacionPrueba::usarPostgres(PostgresPrueba& servidor, const QString& base) {
+  const OrigenDatos origen = servidor.crearBaseDatos(base);
+  if (origen.baseDatos.isEmpty())
+    return false;
+  entorno_->instalacion.origenes.mapear(u"velandria"_s, origen);
+  entorno_->ConexionBD = std::make_unique<Conexion>();
+  entorno_->ConexionBD->abrir(u"dsn=velandria;pwd="_s + PostgresPrueba::clave() + u";"_s,
+                              entorno_->instalacion.origenes);
+  CrearEsquema(conexion(), TablasPrincipales());
+  return true;
 }
 
 void InstalacionPrueba::ejecutar(const QStringList& sentencias) {

@@ -8,6 +8,8 @@
 #include "dialogos_guion.h"
 #include "entorno.h"
 
+class PostgresPrueba;
+
 // A throwaway installation for a test: a temporary program folder holding an empty main
 // database ("velandria.db") and reports database ("informes.db") with the schema, a
 // "productos.ini" that maps "velandria" and "informes" to them, a scripted dialog service and an
@@ -22,6 +24,11 @@ class InstalacionPrueba {
   QString carpeta() const { return dir_.path(); }
   QString rutaPrincipal() const;
   QString rutaInformes() const;
+
+  // Moves the shared connection to a new database of the test server, holding the main tables,
+  // as the data source "velandria"; false when the database cannot be made (the server's
+  // error() says why).
+  bool usarPostgres(PostgresPrueba& servidor, const QString& base);
 
   // Runs statements of the test's own on the main database (several, one after another).
   void ejecutar(const QStringList& sentencias);

@@ -233,8 +233,8 @@ const QString kBuscar =
     uR"html(
 <p>La búsqueda encuentra un producto por el principio de su nombre, de su proveedor o de su
 familia y lo muestra en la pantalla de productos. Se abre con <span class="boton">Buscar</span>
-desde la pantalla de productos simples o desde la de productos elaborados, y busca en la misma
-clase de productos.</p>
+desde la pantalla de productos simples y busca entre ellos (los productos elaborados tienen su
+propia lista en su pantalla).</p>
 
 <h2>Cómo buscar</h2>
 <ol>
@@ -243,7 +243,8 @@ el principio del texto con el teclado de la pantalla o con el del ordenador. No 
 distinguir mayúsculas de minúsculas.</li>
 <li>Puede rellenar varias casillas: se buscan los productos que cumplen todas.</li>
 <li>Marque <b>sin asignar</b> para ver solo los productos que no tienen familia.</li>
-<li>Pulse el botón de buscar. Con todas las casillas vacías se listan todos los productos en uso.</li>
+<li>Pulse <span class="boton">Buscar</span> (o la tecla Intro del teclado del ordenador). Con
+todas las casillas vacías se listan todos los productos en uso.</li>
 <li>Toque un producto de la lista: la búsqueda se cierra y el producto aparece en la pantalla de
 productos.</li>
 </ol>
@@ -258,8 +259,9 @@ productos.</li>
 
 <h2>Otros botones</h2>
 <ul>
-<li>El botón de limpiar vacía las casillas.</li>
-<li>El botón de cerrar vuelve a la pantalla de productos sin cambiar el producto que se ve.</li>
+<li><span class="boton">Limpiar</span> vacía las casillas.</li>
+<li><span class="boton">Cerrar</span> vuelve a la pantalla de productos sin cambiar el producto
+que se ve.</li>
 </ul>
 <div class="nota">No escriba apóstrofos (') en las casillas: la búsqueda no los admite y dará un
 error.</div>
@@ -280,13 +282,20 @@ las flechas del panel pasa de página.</li>
 sub-productos actuales.</li>
 <li>Toque los productos que quiera añadir; puede cambiar de familia para buscarlos. Un producto
 que ya está en la lista no se añade dos veces.</li>
-<li>Para quitar un sub-producto, selecciónelo en la lista y bórrelo con la tecla Supr.</li>
+<li>Para quitar un sub-producto, tóquelo en la lista y pulse <span class="boton">Quitar</span>
+(o la tecla Supr del teclado).</li>
 <li>Pulse <span class="boton">Aceptar</span>. La lista sustituye a los sub-productos que tenía el
 producto y verá <span class="mensaje">Ha terminado de incluir subproductos al producto</span>
 seguido de su nombre.</li>
 </ol>
 <div class="nota">Si acepta con la lista vacía, el producto se queda sin sub-productos. Si una
 familia no tiene productos para la caja, su panel aparece vacío.</div>
+
+<h2>Otro producto principal</h2>
+<p>Después de aceptar, o si se equivocó de producto, <b>toque la foto del producto principal</b>
+(arriba a la derecha): la lista se vacía y el siguiente producto que toque será el nuevo producto
+principal, con sus sub-productos. Los cambios que no haya aceptado no se guardan.</p>
+<p>Con <span class="boton">Cerrar</span> sale de la ventana sin guardar nada más.</p>
 
 <h2>Qué productos aparecen</h2>
 <p>Solo los productos en uso que se muestran en la caja. Para ofrecer un suplemento como

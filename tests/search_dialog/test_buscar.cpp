@@ -1,0 +1,159 @@
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QtTest>
+
+#include "buscar.h"
+#include "formulario_prueba.h"
+#include "postgres_prueba.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// Finding a product among many: the query that the boxes make, the products it finds on each
+// engine, and the dialog handing the chosen product to the products form.
+class TestBuscar : public QObject {
+  Q_OBJECT
+ private slots:
+  void initTestCase();
+  void consulta_data();
+  void consulta();
+  void encuentra_data();
+  void encuentra();
+  void eligeMuestraYCerrarNoCambia();
+
+ private:
+  std::unique_ptr<PostgresPrueba> pg_;
+  InstalacionPrueba sqlite_;
+  InstalacionPrueba postgres_;
+};
+
+namespace {
+
+QStringList Catalogo() {
+  return {
+      u"insert into proveedores (codigo, nombre, borrar) values ('P2', 'Cafés Norte', 0)"_s,
+      u"insert into seccion (codigo, nombre, borrar, menu) values ('F1', 'Bebidas', 0, 0)"_s,
+      Producto(u"1"_s, u"Café solo"_s, {{u"proveedor"_s, u"'P2'"_s}, {u"seccion"_s, u"'F1'"_s}}),
+      Producto(u"2"_s, u"Café con leche"_s, {{u"proveedor"_s, u"'P2'"_s}}),
+      Stock(u"1"_s, u"4"_s, u"1"_s),
+      Stock(u"2"_s, u"4"_s, u"1"_s),
+      Producto(u"3"_s, u"Cazuela"_s),
+      u"insert into productoelaborado_producto (productopadre, productohijo, cantidad) "
+      "values ('3', '1', 1)"_s,
+      Producto(u"4"_s, u"Caña"_s, {{u"borrar"_s, u"-1"_s}}),
+      Producto(u"5"_s, u"Vino tinto"_s, {{u"seccion"_s, u"'F1'"_s}}),
+  };
+}
+
+void Pulsar(QWidget* donde, const QString& nombre) {
+  auto* boton = donde->findChild<QPushButton*>(nombre);
+  QVERIFY2(boton, qPrintable(nombre));
+  QTest::mouseClick(boton, Qt::LeftButton);
+}
+
+}  // namespace
+
+void TestBuscar::initTestCase() {
+  sqlite_.ejecutar(Catalogo());
+  pg_ = std::make_unique<PostgresPrueba>();
+  QVERIFY2(postgres_.usarPostgres(*pg_, u"busqueda"_s), qPrintable(pg_->error()));
+  postgres_.ejecutar(Catalogo());
+}
+
+void TestBuscar::consulta_data() {
+  QTest::addColumn<QString>("modo");
+  QTest::addColumn<CriteriosBusqueda>("criterios");
+  QTest::addColumn<QString>("condicion");
+  QTest::newRow("nombre") << u"Pr"_s << CriteriosBusqueda{.nombre = u"ca"_s}
+                          << u" and Nombre like 'ca%' and codigo not in (select productopadre "
+                             "from productoelaborado_producto)"_s;
+  QTest::newRow("todo, elaborados")
+      << u"PrEl"_s << CriteriosBusqueda{u"dis"_s, u"beb"_s, u"co"_s, true}
+      << u" and Nombre like 'co%' and Proveedor in (select codigo from proveedores where nombre "
+         "like 'dis%') and seccion in (select codigo from seccion where nombre like 'beb%') and "
+         "seccion = '-1' and codigo in (select productopadre from productoelaborado_producto)"_s;
+}
+
+void TestBuscar::consulta() {
+  QFETCH(QString, modo);
+  QFETCH(CriteriosBusqueda, criterios);
+  QFETCH(QString, condicion);
+  QCOMPARE(ConsultaBuscarProducto(modo, criterios),
+           u"Select * from Productos  where codigo <> null and borrar = 0"_s + condicion);
+}
+
+void TestBuscar::encuentra_data() {
+  QTest::addColumn<bool>("postgres");
+  QTest::addColumn<QString>("modo");
+  QTest::addColumn<CriteriosBusqueda>("criterios");
+  QTest::addColumn<QString>("codigos");
+  for (const bool pg : {false, true}) {
+    const auto fila = [&](const char* caso, const QString& modo, const CriteriosBusqueda& c,
+                          const QString& codigos) {
+      QTest::addRow("%s, %s", pg ? "postgresql" : "sqlite", caso) << pg << modo << c << codigos;
+    };
+    fila("todo", u"Pr"_s, {}, u"1 2 5"_s);
+    fila("nombre", u"Pr"_s, {.nombre = u"ca"_s}, u"1 2"_s);
+    fila("elaborados", u"PrEl"_s, {.nombre = u"CA"_s}, u"3"_s);
+    fila("proveedor y familia", u"Pr"_s, {.proveedor = u"Caf"_s, .familia = u"beb"_s}, u"1"_s);
+    fila("sin familia", u"Pr"_s, {.sinAsignar = true}, u"2"_s);
+  }
+}
+
+void TestBuscar::encuentra() {
+  QFETCH(bool, postgres);
+  QFETCH(QString, modo);
+  QFETCH(CriteriosBusqueda, criterios);
+  QFETCH(QString, codigos);
+  InstalacionPrueba& inst = postgres ? postgres_ : sqlite_;
+  QStringList hallados;
+  for (const QString& linea : BuscarProducto(inst.entorno(), modo, criterios))
+    hallados.append(linea.right(10).trimmed());
+  hallados.sort();
+  QCOMPARE(hallados.join(u' '), codigos);
+}
+
+void TestBuscar::eligeMuestraYCerrarNoCambia() {
+  FormularioPrueba f(Catalogo());
+  QVERIFY(f.mostrar());
+  Pulsar(&f.forma(), u"cmd_ProdGenerico"_s);
+  Pulsar(&f.forma(), u"cmd_buscar"_s);
+  QPointer<Buscar> buscar = f.forma().findChild<Buscar*>();
+  QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Café con leche"_s);
+  QVERIFY(buscar && buscar->isVisible() && buscar->isModal());
+  // A quote breaks the query: it is logged and nothing is listed.
+  auto* nombre = buscar->findChild<QLineEdit*>(u"TxtBusProd_2"_s);
+  QTest::keyClicks(nombre, u"O'B"_s);
+  QTest::keyClick(nombre, Qt::Key_Return);
+  auto* lista = buscar->findChild<QListWidget*>(u"lst_resultado"_s);
+  QCOMPARE(lista->count(), 0);
+  QVERIFY(f.inst().log().startsWith("Buscar  1, Descripcion: "));
+  Pulsar(buscar, u"BtnBusClie_1"_s);
+  // "C", "A", "X", Backspace and Enter, on the dialog's own keyboard, into the name box.
+  for (const int tecla : {67, 65, 88, 8, 13})
+    Pulsar(buscar, u"bt_letra_%1"_s.arg(tecla));
+  QCOMPARE(nombre->text(), u"CA"_s);
+  Pulsar(buscar, u"BtnBusClie_0"_s);
+  const QList<QListWidgetItem*> solo = lista->findItems(u"Café solo"_s, Qt::MatchStartsWith);
+  QCOMPARE(lista->count(), 2);
+  QCOMPARE(solo.first()->text(), u"Café solo"_s + QString(130, u' ') + u"1"_s);
+
+  QTest::mouseClick(lista->viewport(), Qt::LeftButton, {},
+                    lista->visualItemRect(solo.first()).center());
+  QTRY_VERIFY(!buscar || !buscar->isVisible());
+  QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Café solo"_s);
+  QCOMPARE(f.forma().estado().codigoActual, 1);
+
+  // Closing hands "-1": the form keeps the product it shows.
+  Pulsar(&f.forma(), u"cmd_buscar"_s);
+  QVERIFY((buscar = f.forma().findChild<Buscar*>()));
+  Pulsar(buscar, u"BtnBusClie_2"_s);
+  QTRY_VERIFY(!buscar || !buscar->isVisible());
+  QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Café solo"_s);
+  QCOMPARE(f.forma().estado().codigoActual, 1);
+  QCOMPARE(f.inst().erroresMostrados().size(), 1);
+}
+
+PRODUCTOS_TEST_MAIN(TestBuscar)
+#include "test_buscar.moc"
