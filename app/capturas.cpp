@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QListWidget>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -16,7 +17,13 @@ namespace {
 struct Paso {
   QString boton;  // empty: nothing to press before the picture
   QString archivo;
+  QString lista = {};  // a list whose first line is touched before the button is pressed
 };
+
+void TocarPrimeraLinea(QWidget* formulario, const QString& nombre) {
+  if (auto* l = formulario->findChild<QListWidget*>(nombre); l && l->count() > 0)
+    l->setCurrentRow(0);
+}
 
 // A button by its name, in the dialog open over the form first; "panel/boton" names a button
 // inside a named control.
@@ -66,24 +73,30 @@ int GuardarCapturas(QWidget* formulario, const QString& carpeta) {
       {u"cmd_cancelar"_s, {}},
       {u"cmd_salir"_s, {}},
       {u"cmd_ProdElaborado"_s, u"06-elaborados.png"_s},
+      {u"cmd_ModificarProdEla"_s, u"07-elaborados-modificar.png"_s},
+      {u"bt_flecha"_s, u"08-elaborados-cantidad.png"_s, u"lb_Productos"_s},
+      {u"cmd_QuitarComponente"_s, {}},
+      {u"cmd_CancelarProdEl"_s, {}},
       {u"cmd_SalirProdEla"_s, {}},
       {u"cmd_ProdGenerico"_s, {}},
       // The search: "ca" typed on its keyboard, searched, then closed with no choice.
       {u"cmd_buscar"_s, {}},
       {u"bt_letra_67"_s, {}},
       {u"bt_letra_65"_s, {}},
-      {u"BtnBusClie_0"_s, u"07-buscar.png"_s},
+      {u"BtnBusClie_0"_s, u"09-buscar.png"_s},
       {u"BtnBusClie_2"_s, {}},
       // The sub-products: a parent touched, then two products of its family added.
       {u"Command1"_s, {}},
       {u"PanelPrimeros/boton_1"_s, {}},
       {u"PanelPrimeros/boton_2"_s, {}},
-      {u"PanelPrimeros/boton_3"_s, u"08-subproductos.png"_s},
+      {u"PanelPrimeros/boton_3"_s, u"10-subproductos.png"_s},
       {u"cmd_CancelarFin"_s, {}},
   };
   QDir().mkpath(carpeta);
   int escritas = 0;
   for (const Paso& paso : pasos) {
+    if (!paso.lista.isEmpty())
+      TocarPrimeraLinea(formulario, paso.lista);
     if (!paso.boton.isEmpty())
       Pulsar(formulario, paso.boton);
     if (paso.archivo.isEmpty())

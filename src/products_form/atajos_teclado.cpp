@@ -20,6 +20,10 @@ QList<AtajosTeclado::Atajo> AtajosTeclado::Atajos() {
       {Qt::Key_F2, Qt::NoModifier, u"cmd_modificar"_s},
       {Qt::Key_F10, Qt::NoModifier, u"cmd_aceptar"_s},
       {Qt::Key_F1, Qt::NoModifier, u"cmd_ayuda"_s},
+      {Qt::Key_Insert, Qt::NoModifier, u"cmd_NuevoProdEla"_s},
+      {Qt::Key_F2, Qt::NoModifier, u"cmd_ModificarProdEla"_s},
+      {Qt::Key_F10, Qt::NoModifier, u"cmd_AceptarProdEl"_s},
+      {Qt::Key_F1, Qt::NoModifier, u"cmd_AyudaProdEla"_s},
   };
 }
 
@@ -32,8 +36,11 @@ bool AtajosTeclado::eventFilter(QObject* objeto, QEvent* evento) {
   for (const Atajo& atajo : Atajos()) {
     if (atajo.tecla != tecla->key() || atajo.modificadores != modificadores)
       continue;
+    // A key's button on a screen that is not shown leaves the key to the screen that is.
     auto* boton = formulario_->findChild<QPushButton*>(atajo.boton);
-    if (boton && boton->isVisible() && boton->isEnabled())
+    if (!boton || !boton->isVisible())
+      continue;
+    if (boton->isEnabled())
       boton->click();
     return true;
   }

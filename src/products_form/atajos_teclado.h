@@ -9,7 +9,8 @@ class QWidget;
 // Keys of a real keyboard that press the form's own buttons, so that a manager at a keyboard
 // browses and edits without the mouse: Page Down / Page Up the next and previous product,
 // Ctrl+Home / Ctrl+End the first and last, Insert "Nuevo", F2 "Modificar", F10 "Aceptar", F1
-// the help. A key does what its button would do, and nothing while that button is hidden or
+// the help; on the elaborated products' screen, its own buttons of the same names. A key does
+// what its button would do, and nothing while that button is hidden or
 // switched off, so the modes and an employee's restrictions hold for it too. A key that the
 // control with the focus uses itself (a list scrolling a page) stays that control's.
 class AtajosTeclado : public QObject {

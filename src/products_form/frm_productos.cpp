@@ -11,6 +11,7 @@
 #include "carga.h"
 #include "config_regional.h"
 #include "disenio.h"
+#include "elaborados.h"
 #include "entorno.h"
 #include "eventos_campos.h"
 #include "filtro_teclas.h"
@@ -97,7 +98,13 @@ void FrmProductos1024::conectar() {
   alta->mostrarColores = [imagenColor] { imagenColor->mostrarColores(); };
   auto* componentes = new ListasComponentes(entorno_, controles_, this);
   componentes->conectar(*modos_);
+  auto* elaborados = new Elaborados(entorno_, estado_, controles_, *modos_, *visualizacion_,
+                                    *importes_, *componentes, *alta, this);
+  elaborados->mostrarColores = [imagenColor] { imagenColor->mostrarColores(); };
+  zona->abrirComponentes = [elaborados] { elaborados->AbrirComponentes(); };
   new AtajosTeclado(this);
+  // After the shortcuts: the elaborated screen sees its keys first.
+  elaborados->conectar();
   navegacion_ = new NavegacionTeclado(controles_, this);
   new CamposLegibles(controles_, this);
   conectarDialogos();

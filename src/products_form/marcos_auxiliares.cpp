@@ -88,6 +88,9 @@ void CrearCantidad(MarcosAuxiliares& m, QWidget* f) {
   m.lbl_Cantidad->setWordWrap(true);
   m.txt_Cantidad = Normal(CrearCampo(m.fr_Cantidad, u"txt_Cantidad"_s, QRect(16, 136, 200, kAlto)));
   m.txt_Cantidad->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // Escape's touch: the component goes out of the recipe.
+  m.cmd_QuitarComponente = Normal(
+      CrearBoton(m.fr_Cantidad, u"cmd_QuitarComponente"_s, u"Quitar"_s, QRect(232, 136, 168, 48)));
 }
 
 }  // namespace

@@ -21,6 +21,7 @@
 #include "permisos.h"
 #include "principal.h"
 #include "recordset.h"
+#include "val.h"
 #include "visualizacion.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -157,7 +158,10 @@ void Modos::navegacionElaborados() {
   PonerActivo({e.Boton_SM2, e.cmd_SalirProdEla, e.cmd_AyudaProdEla}, true);
   PonerActivo({e.cmd_AceptarProdEl, e.cmd_CancelarProdEl}, false);
   e.lblProdASel->setText(u"Productos elaborados"_s);
-  PonerActivo({e.lb_Productos, e.lb_ProductosSel, e.cmdCInterno, e.cmdCVenta}, false);
+  PonerActivo({e.lb_Productos, e.lb_ProductosSel, e.cmdCInterno, e.cmdCVenta, e.bt_flecha,
+               e.bt_antpelab, e.bt_sigpelab},
+              false);
+  Habilitar(e.lb_ProductosElaborados, true);
   PonerVisible({c_.marcos.fr_Mensaje, c_.marcos.fr_colores, c_.gen.fr_MensajeNombre,
                 c_.gen.fr_Mensajenumero, e.fr_mensajeNombrePElab, e.fr_mensajeNumeroPElab},
                false);
@@ -208,7 +212,11 @@ void Modos::cambiosElaborados() {
   PonerActivo({e.Boton_SM2, e.cmd_SalirProdEla}, false);
   PonerActivo({e.cmd_AceptarProdEl, e.cmd_CancelarProdEl}, true);
   e.lblProdASel->setText(u"Seleccione el componente a utilizar:"_s);
-  PonerActivo({e.lb_Productos, e.cmdCInterno, e.cmdCVenta, e.lb_ProductosSel}, true);
+  PonerActivo({e.lb_Productos, e.cmdCInterno, e.cmdCVenta, e.lb_ProductosSel, e.bt_flecha}, true);
+  // The product being changed stays on show until it is accepted or cancelled.
+  Habilitar(e.lb_ProductosElaborados, false);
+  Habilitar(e.bt_sigpelab, true);
+  Habilitar(e.bt_antpelab, ValJet(e.lblpospelab->text()) > 0);
   PonerActivo({e.pic_ProductoElaborado, e.lbl_InsertarElab, e.pic_Color, e.lbl_colorElab}, true);
 }
 
@@ -258,13 +266,7 @@ void Modos::limpiarNuevoGenerico() {
     cero->setText(u"0"_s);
   }
   g.txt_stock_minimo->setText(u"1"_s);
-  estado_.fotoElegida.clear();
-  estado_.colorElegido.clear();
-  estado_.impresoraElegida.clear();
-  g.pict_imagen->clear();
-  g.pict_imagen->setProperty("archivo", QString());
-  MostrarColor(g.pic_ColorPG, QString());
-  c_.marcos.lblNomProd->clear();
+  OlvidarElecciones(estado_, g.pict_imagen, g.pic_ColorPG, c_.marcos.lblNomProd);
   g.cbo_Medida->setCurrentIndex(-1);
   DesmarcarOpcion(g.optCocina);
   DesmarcarOpcion(g.optBarra);

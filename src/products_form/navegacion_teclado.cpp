@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScroller>
+#include <QScrollerProperties>
 #include <QTimer>
 
 #include "disenio.h"
@@ -104,9 +105,17 @@ NavegacionTeclado::NavegacionTeclado(ControlesFormulario& controles, QWidget* fo
     HacerListaTactil(lista);
   HacerListaTactil(c_.gen.cbo_Medida->view());
   const QList<QListWidget*> listas = formulario->findChildren<QListWidget*>();
+  // A finger drags a list to scroll it; a touch that does not move takes its line at once, so
+  // that the button pressed next (the arrow of the recipe page, say) finds it taken.
+  QScrollerProperties arrastre;
+  arrastre.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0);
   for (QListWidget* lista : listas) {
     QScroller::grabGesture(lista->viewport(), QScroller::LeftMouseButtonGesture);
-    lista->installEventFilter(this);
+    QScroller::scroller(lista->viewport())->setScrollerProperties(arrastre);
+    // The recipe page's lists answer Enter themselves: it chooses a component or asks a
+    // component's quantity again.
+    if (lista != c_.elab.lb_Productos && lista != c_.elab.lb_ProductosSel)
+      lista->installEventFilter(this);
   }
   // A panel that opens takes the focus, so that the keyboard carries on in it.
   for (QWidget* panel : {m.frProveedores, m.frImpresoras, m.frListaProductos, m.fr_Cantidad})

@@ -208,6 +208,7 @@ struct MarcosAuxiliares {
   QGroupBox* fr_Cantidad = nullptr;
   QLabel* lbl_Cantidad = nullptr;  // the question about the component's quantity
   QLineEdit* txt_Cantidad = nullptr;
+  QPushButton* cmd_QuitarComponente = nullptr;  // does what Escape does in txt_Cantidad
 
   // The printer line of the product on show, below both screens.
   QLabel* lblNomProd = nullptr;

@@ -104,6 +104,17 @@ void MostrarColor(QLabel* caja, const QString& valor) {
   caja->setProperty("color", valor);
 }
 
+void OlvidarElecciones(EstadoFormulario& estado, QLabel* imagen, QLabel* color,
+                       QLabel* lineaImpresora) {
+  estado.fotoElegida.clear();
+  estado.colorElegido.clear();
+  estado.impresoraElegida.clear();
+  imagen->clear();
+  imagen->setProperty("archivo", QString());
+  MostrarColor(color, QString());
+  lineaImpresora->clear();
+}
+
 void PonerFamilia(QLabel* etiqueta, const QString& nombre, const QString& codigo) {
   etiqueta->setText(nombre);
   etiqueta->setProperty("codigo", codigo);

@@ -30,6 +30,11 @@ void MostrarImagen(QLabel* imagen, const QString& carpetaFotos, const QString& a
 // Paints a colour box with a suite colour value; an empty value paints the default white.
 void MostrarColor(QLabel* caja, const QString& valor);
 
+// Forgets the picture, colour and printer chosen for the product being edited, and empties the
+// picture box, the colour box and the printer line.
+void OlvidarElecciones(EstadoFormulario& estado, QLabel* imagen, QLabel* color,
+                       QLabel* lineaImpresora);
+
 // The family chosen for a product: its name is the label's caption and its code is carried
 // with the label (property "codigo"; "-1" when there is none).
 void PonerFamilia(QLabel* etiqueta, const QString& nombre, const QString& codigo);

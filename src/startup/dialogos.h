@@ -12,6 +12,7 @@
 class ServicioDialogos {
  public:
   enum class Icono { Ninguno, Informacion, Critico, Exclamacion, Pregunta };
+  // A question with "No" among its buttons has "No" as the button that Enter presses.
   enum class Botones { Aceptar, AceptarCancelar, SiNo, SiNoCancelar };
   enum class Respuesta { Aceptar, Cancelar, Si, No };
 

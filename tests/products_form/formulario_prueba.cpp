@@ -6,8 +6,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-FormularioPrueba::FormularioPrueba(const QStringList& filas) {
-  inst_.ejecutar({
+QStringList FilasDeLaInstalacion() {
+  return {
       u"insert into opciones (identificador, idioma, tipo_programa, numDecimales) values "
       "('', 'CASTELLANO', 'RESTAURANTE', 2)"_s,
       u"insert into opciones_terminal (identificador, empleado, id_color) values ('', 5, 1)"_s,
@@ -18,7 +18,11 @@ FormularioPrueba::FormularioPrueba(const QStringList& filas) {
       "16777215, 12632256, 12632256, 12632256, 12632256, 8421504, 65535, 255)"_s,
       // The captions are gathered already: the load does not write them again.
       u"insert into EjecutablesTraduccion values ('productos-frmProductos1024')"_s,
-  });
+  };
+}
+
+FormularioPrueba::FormularioPrueba(const QStringList& filas) {
+  inst_.ejecutar(FilasDeLaInstalacion());
   inst_.ejecutar(filas);
   Sesion& s = inst_.entorno().sesion;
   s.idioma = u"CASTELLANO"_s;

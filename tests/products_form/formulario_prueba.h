@@ -41,6 +41,9 @@ class FormularioPrueba {
   std::unique_ptr<FrmProductos1024> forma_;
 };
 
+// The installation's rows that every form test starts with (options, terminal, colours).
+QStringList FilasDeLaInstalacion();
+
 // The insert of a live product shown on the till, with the given columns (SQL literals) over
 // the defaults: cost 1, price 2, tax 10, no family, sale product prepared at the bar, in units.
 QString Producto(const QString& codigo, const QString& nombre,

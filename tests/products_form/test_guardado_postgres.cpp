@@ -30,8 +30,6 @@ class TestGuardadoPostgres : public QObject {
 
 namespace {
 
-const QString kCadena = u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s;
-
 QList<QVariantList> Filas(Conexion& c, const QString& consulta) {
   QList<QVariantList> r;
   QSqlQuery q = c.consultar(consulta);
@@ -42,14 +40,6 @@ QList<QVariantList> Filas(Conexion& c, const QString& consulta) {
     r.append(fila);
   }
   return r;
-}
-
-// An installation whose shared connection is on the test server's database.
-void UsarPostgres(InstalacionPrueba& inst, const OrigenDatos& origen) {
-  inst.entorno().instalacion.origenes.mapear(u"velandria"_s, origen);
-  inst.entorno().ConexionBD = std::make_unique<Conexion>();
-  inst.entorno().ConexionBD->abrir(kCadena, inst.entorno().instalacion.origenes);
-  inst.entorno().sesion.tipo_programa = u"RESTAURANTE"_s;
 }
 
 }  // namespace
@@ -64,7 +54,7 @@ void TestGuardadoPostgres::initTestCase() {
   Conexion c;
   OrigenesDatos origenes;
   origenes.mapear(u"velandria"_s, origen_);
-  c.abrir(kCadena, origenes);
+  c.abrir(kCadenaVelandria, origenes);
   CrearEsquema(c, TablasPrincipales());
 }
 

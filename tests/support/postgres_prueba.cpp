@@ -17,6 +17,8 @@
 #include <QStandardPaths>
 #include <algorithm>
 
+#include "instalacion_prueba.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -225,4 +227,11 @@ OrigenDatos PostgresPrueba::crearBaseDatos(const QString& nombre) {
   if (!ejecutarComoAdministrador(u"postgres"_s, u"create database "_s + nombre))
     o.baseDatos.clear();
   return o;
+}
+
+void UsarPostgres(InstalacionPrueba& inst, const OrigenDatos& origen) {
+  inst.entorno().instalacion.origenes.mapear(u"velandria"_s, origen);
+  inst.entorno().ConexionBD = std::make_unique<Conexion>();
+  inst.entorno().ConexionBD->abrir(kCadenaVelandria, inst.entorno().instalacion.origenes);
+  inst.entorno().sesion.tipo_programa = u"RESTAURANTE"_s;
 }

@@ -5,6 +5,8 @@
 
 #include "origenes_datos.h"
 
+class InstalacionPrueba;
+
 // A throwaway PostgreSQL server for one test run: a cluster made with initdb in a temporary
 // folder, reached only through a Unix socket in that folder (no TCP listener), with password
 // login for the user "tpv", stopped and removed when the object goes. initdb refuses to run as
@@ -46,3 +48,7 @@ class PostgresPrueba {
   bool arrancado_ = false;
   QString error_;
 };
+
+inline const QString kCadenaVelandria = QStringLiteral("dsn=velandria;pwd=KorvanitesX%QQRT;");
+// Puts an installation's shared connection on a test server's database, for a restaurant.
+void UsarPostgres(InstalacionPrueba& inst, const OrigenDatos& origen);

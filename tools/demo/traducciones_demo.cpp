@@ -52,6 +52,7 @@ const QList<TraduccionDemo>& Traducciones() {
       {u"Cocina", u"cmdCocina", u"Kitchen"},
       {u"Barra", u"cmdBarra", u"Bar"},
       {u"Cantidad", u"fr_Cantidad", u"Quantity"},
+      {u"Quitar", u"cmd_QuitarComponente", u"Remove"},
       {u"Nombre", u"lbl_nombre", u"Name"},
       {u"Cód. barras", u"lbl_CodBarras", u"Barcode"},
       {u"Descripción", u"lbl_descripcion", u"Description"},
