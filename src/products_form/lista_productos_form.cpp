@@ -50,6 +50,9 @@ void HacerListaTactil(QListWidget* lista) {
   lista->setStyle(estilo);
   lista->verticalScrollBar()->setStyle(estilo);
   lista->setItemDelegate(new FilaTactil(lista));
+  // Every line is one line of text: the first line's size is every line's, so that a list of
+  // the whole catalogue is laid out without measuring each of its lines.
+  lista->setUniformItemSizes(true);
 }
 
 ListaProductosForm::ListaProductosForm(Entorno& entorno, ControlesFormulario& controles,
