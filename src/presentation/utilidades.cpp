@@ -108,9 +108,10 @@ qint16 BuscadorArchivos::existe(const QString& ruta) {
     dir.setSorting(QDir::Name | QDir::IgnoreCase);
     listado = listados_.insert(carpeta, dir.entryList());
   }
+  if (patron.isEmpty() || patron == u"*"_s)  // the folder's first file, with no pattern to build
+    return listado->isEmpty() ? 0 : static_cast<qint16>(listado->first().size());
   // The name is a pattern as a folder's name filter takes it, letter case ignored.
-  const QRegularExpression re =
-      QRegularExpression::fromWildcard(patron.isEmpty() ? u"*"_s : patron, Qt::CaseInsensitive);
+  const QRegularExpression re = QRegularExpression::fromWildcard(patron, Qt::CaseInsensitive);
   for (const QString& nombre : std::as_const(*listado)) {
     if (re.match(nombre).hasMatch())
       return static_cast<qint16>(nombre.size());
