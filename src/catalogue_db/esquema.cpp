@@ -149,7 +149,10 @@ QString TipoSql(TipoColumna tipo, Motor motor) {
   const bool pg = motor == Motor::PostgreSQL;
   switch (tipo) {
     case T::Texto:
-      return pg ? u"citext"_s : u"text collate nocase"_s;
+      // "varchar" stores exactly what "text" does on SQLite, but the SQLite ODBC driver reports
+      // it as 255 characters wide instead of 65,536: Qt's ODBC driver sizes (and clears) a
+      // buffer of that width for every text value it fetches.
+      return pg ? u"citext"_s : u"varchar collate nocase"_s;
     case T::Entero:
       return pg ? u"integer"_s : u"integer"_s;
     case T::Booleano:
