@@ -71,13 +71,15 @@ QList<Recordset::Fila> Recordset::leerCursor() {
   const int ocultas = claveOculta_.size();
   const int n = campos_.count();
   QList<Fila> leidas;
+  QByteArray bloque;
   while (cursor_->next()) {
     Fila f;
-    f.valores.reserve(n);
     for (int i = 0; i < ocultas; ++i)
       f.clave.append(cursor_->value(i));
+    bloque.resize(0);  // keeps its capacity for the next row
     for (int i = 0; i < n; ++i)
-      f.valores.append(cursor_->value(ocultas + i));
+      FilaCompacta::agregar(bloque, cursor_->value(ocultas + i));
+    f.valores = FilaCompacta::deBloque(bloque);
     leidas.append(std::move(f));
   }
   const QSqlError error = cursor_->lastError();
@@ -303,7 +305,7 @@ void Recordset::addNew() {
 void Recordset::setField(const QString& nombre, const QVariant& valor) {
   const int i = indiceCampo(nombre);
   if (edicion_ == Edicion::Ninguna) {
-    buffer_ = filaActual().valores;
+    buffer_ = filaActual().valores.lista();
     cambiados_ = QList<bool>(campos_.count(), false);
     edicion_ = Edicion::Cambio;
   }

@@ -10,6 +10,7 @@
 #include <QVariant>
 
 #include "conexion.h"
+#include "fila_compacta.h"
 
 // A static recordset, as the suite's programs open them: the rows of a statement are read once
 // into memory and walked with the current-row moves; fields are read by name (ignoring letter
@@ -58,7 +59,7 @@ class Recordset {
  private:
   enum class Edicion { Ninguna, Nueva, Cambio };
   struct Fila {
-    QList<QVariant> valores;
+    FilaCompacta valores;
     bool borrada = false;
     QList<QVariant> clave;  // the hidden key columns' values, see claveOculta_
   };
