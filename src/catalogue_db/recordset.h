@@ -23,6 +23,8 @@
 // Rows are read when first needed, not when the statement runs: a recordset opened only to add
 // rows ("select * from productos", then addNew) never copies the table. Should such a recordset
 // be walked afterwards, the statement is read then, and the rows it added are taken from memory.
+// On PostgreSQL the rows are read as the statement runs: its driver drops a result that is not
+// read before the connection runs another statement.
 class Recordset {
  public:
   Recordset(Conexion& conexion, const QString& sentencia);
