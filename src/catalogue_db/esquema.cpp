@@ -58,7 +58,11 @@ QList<Tabla> CrearTablasPrincipales() {
   t.append({u"proveedores"_s,
             {{u"codigo"_s, T::Texto, true}, Tx(u"nombre"_s), Bo(u"borrar"_s)},
             {u"codigo"_s}});
-  t.append({u"productoproveedor"_s, {Tx(u"producto"_s), Tx(u"proveedor"_s), Do(u"coste"_s)}, {}});
+  // A product's suppliers are read each time the product is shown.
+  t.append({u"productoproveedor"_s,
+            {Tx(u"producto"_s), Tx(u"proveedor"_s), Do(u"coste"_s)},
+            {},
+            {u"producto"_s}});
   t.append({u"productoElaborado_producto"_s,
             {{u"productopadre"_s, T::Texto, true}, Tx(u"productohijo"_s), Do(u"cantidad"_s)},
             {}});
@@ -145,7 +149,10 @@ QString TipoSql(TipoColumna tipo, Motor motor) {
   const bool pg = motor == Motor::PostgreSQL;
   switch (tipo) {
     case T::Texto:
-      return pg ? u"citext"_s : u"text collate nocase"_s;
+      // "varchar" stores exactly what "text" does on SQLite, but the SQLite ODBC driver reports
+      // it as 255 characters wide instead of 65,536: Qt's ODBC driver sizes (and clears) a
+      // buffer of that width for every text value it fetches.
+      return pg ? u"citext"_s : u"varchar collate nocase"_s;
     case T::Entero:
       return pg ? u"integer"_s : u"integer"_s;
     case T::Booleano:
@@ -211,6 +218,10 @@ QStringList SentenciasCrearEsquema(const QList<Tabla>& tablas, Motor motor) {
     if (!t.clave.isEmpty())
       partes.append(u"primary key ("_s + t.clave.join(u", "_s) + u')');
     sentencias.append(u"create table "_s + t.nombre + u" ("_s + partes.join(u", "_s) + u')');
+    for (const QString& columna : t.indices) {
+      sentencias.append(u"create index "_s + t.nombre + u'_' + columna + u" on "_s + t.nombre +
+                        u" ("_s + columna + u')');
+    }
   }
   return sentencias;
 }

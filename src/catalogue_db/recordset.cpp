@@ -20,6 +20,15 @@ const QString kSinFilaActual =
     u"BOF o EOF es True, o el registro actual se ha eliminado. La operación solicitada requiere "
     "un registro actual."_s;
 
+// "select ... from NAME [where|order|group|;|end]" with a single table.
+QString TablaDeSentencia(const QString& sentencia) {
+  static const QRegularExpression re(
+      uR"(\bfrom\s+([A-Za-z_][A-Za-z0-9_]*)\s*(?:$|;|\bwhere\b|\border\b|\bgroup\b))"_s,
+      QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch m = re.match(sentencia);
+  return m.hasMatch() ? m.captured(1) : QString();
+}
+
 }  // namespace
 
 Recordset::Recordset(Conexion& conexion, const QString& sentencia)
@@ -28,31 +37,113 @@ Recordset::Recordset(Conexion& conexion, const QString& sentencia)
 }
 
 void Recordset::leer() {
+  tabla_ = TablaDeSentencia(sentencia_);
   claveOculta_ = claveQueFalta();
+  filas_.clear();
+  vivas_ = 0;
+  actualAgregada_ = false;
+  indices_.clear();
+  abrirCursor();
+  lectura_ = Lectura::Pendiente;
+  abierto_ = true;
+  edicion_ = Edicion::Ninguna;
+  posicion_ = 0;
+  // PostgreSQL's driver drops a forward-only result as soon as the connection runs another
+  // statement, so there the rows are read while they are there.
+  if (conexion_->motor() == Motor::PostgreSQL)
+    leerFilas();
+}
+
+void Recordset::abrirCursor() {
   QString lectura = sentencia_;
   if (!claveOculta_.isEmpty()) {
     static const QRegularExpression select(uR"(^\s*select\s+)"_s,
                                            QRegularExpression::CaseInsensitiveOption);
     lectura.replace(select, u"select "_s + claveOculta_.join(u", "_s) + u", "_s);
   }
-  QSqlQuery q = conexion_->consultar(lectura);
-  const int ocultas = claveOculta_.size();
-  campos_ = q.record();
-  for (int i = 0; i < ocultas; ++i)
+  cursor_.emplace(conexion_->consultar(lectura));
+  campos_ = cursor_->record();
+  for (int i = 0; i < claveOculta_.size(); ++i)
     campos_.remove(0);
-  filas_.clear();
-  while (q.next()) {
+}
+
+QList<Recordset::Fila> Recordset::leerCursor() {
+  const int ocultas = claveOculta_.size();
+  const int n = campos_.count();
+  QList<Fila> leidas;
+  QByteArray bloque;
+  while (cursor_->next()) {
     Fila f;
-    f.valores.reserve(campos_.count());
     for (int i = 0; i < ocultas; ++i)
-      f.clave.append(q.value(i));
-    for (int i = 0; i < campos_.count(); ++i)
-      f.valores.append(q.value(ocultas + i));
-    filas_.append(std::move(f));
+      f.clave.append(cursor_->value(i));
+    bloque.resize(0);  // keeps its capacity for the next row
+    for (int i = 0; i < n; ++i)
+      FilaCompacta::agregar(bloque, cursor_->value(ocultas + i));
+    f.valores = FilaCompacta::deBloque(bloque);
+    leidas.append(std::move(f));
   }
-  abierto_ = true;
-  edicion_ = Edicion::Ninguna;
-  posicion_ = 0;
+  const QSqlError error = cursor_->lastError();
+  cursor_.reset();
+  if (error.isValid())
+    throw ErrorBD(DescripcionError(error));
+  return leidas;
+}
+
+void Recordset::leerFilas() {
+  if (lectura_ == Lectura::Leida)
+    return;
+  if (lectura_ == Lectura::Pendiente) {
+    filas_ = leerCursor();
+    vivas_ = filas_.size();
+    lectura_ = Lectura::Leida;
+    return;
+  }
+  // Rows were added before any was read: the statement runs again, and the rows this recordset
+  // added come from memory, after the ones that were there before, as if read at the start.
+  abrirCursor();
+  QList<Fila> antes;
+  QList<bool> hallada(filas_.size(), false);
+  for (Fila& leida : leerCursor()) {
+    bool propia = false;
+    for (int i = 0; i < filas_.size() && !propia; ++i) {
+      propia = !hallada.at(i) && !filas_.at(i).borrada && mismaFila(leida, filas_.at(i));
+      hallada[i] = hallada.at(i) || propia;
+    }
+    if (!propia)
+      antes.append(std::move(leida));
+  }
+  if (actualAgregada_)
+    posicion_ += antes.size();
+  vivas_ += antes.size();
+  antes.append(filas_);
+  filas_ = std::move(antes);
+  lectura_ = Lectura::Leida;
+}
+
+bool Recordset::mismaFila(const Fila& leida, const Fila& agregada) const {
+  const Tabla* t = BuscarTabla(tabla_);
+  const bool porClave = claveCompleta(agregada);
+  for (int i = 0; i < campos_.count(); ++i) {
+    if (porClave && !t->clave.contains(campos_.fieldName(i), Qt::CaseInsensitive))
+      continue;
+    const QVariant& a = leida.valores.at(i);
+    const QVariant& b = agregada.valores.at(i);
+    if (a.isNull() != b.isNull() || (!a.isNull() && a.toString() != b.toString()))
+      return false;
+  }
+  return true;
+}
+
+bool Recordset::hayVivas() const {
+  if (vivas_ > 0)
+    return true;
+  leerFilas();
+  return vivas_ > 0;
+}
+
+void Recordset::asegurarActual() const {
+  if (lectura_ != Lectura::SinLeer || !actualAgregada_)
+    leerFilas();
 }
 
 QStringList Recordset::claveQueFalta() const {
@@ -91,20 +182,20 @@ void Recordset::comprobarAbierto() const {
 
 int Recordset::recordCount() const {
   comprobarAbierto();
-  int n = 0;
-  for (const Fila& f : filas_)
-    n += f.borrada ? 0 : 1;
-  return n;
+  leerFilas();
+  return vivas_;
 }
 
 bool Recordset::bof() const {
   comprobarAbierto();
-  return posicion_ < 0 || recordCount() == 0;
+  asegurarActual();
+  return posicion_ < 0 || !hayVivas();
 }
 
 bool Recordset::eof() const {
   comprobarAbierto();
-  return posicion_ >= filas_.size() || recordCount() == 0;
+  asegurarActual();
+  return posicion_ >= filas_.size() || !hayVivas();
 }
 
 int Recordset::siguienteViva(int desde, int paso) const {
@@ -118,7 +209,8 @@ void Recordset::moveFirst() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
-  if (recordCount() == 0)
+  leerFilas();
+  if (vivas_ == 0)
     throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(0, 1);
 }
@@ -127,7 +219,8 @@ void Recordset::moveLast() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
-  if (recordCount() == 0)
+  leerFilas();
+  if (vivas_ == 0)
     throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(filas_.size() - 1, -1);
 }
@@ -136,6 +229,7 @@ void Recordset::moveNext() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
+  leerFilas();
   // Only EOF itself (or a set that never had a row) has no next row: from a row just deleted,
   // even the last one, the move goes on to EOF, as the delete-while-walking loops expect.
   if (posicion_ >= filas_.size())
@@ -147,6 +241,7 @@ void Recordset::movePrevious() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
+  leerFilas();
   if (posicion_ < 0 || filas_.isEmpty())
     throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(posicion_ - 1, -1);
@@ -154,6 +249,7 @@ void Recordset::movePrevious() {
 
 const Recordset::Fila& Recordset::filaActual() const {
   comprobarAbierto();
+  asegurarActual();
   if (posicion_ < 0 || posicion_ >= filas_.size() || filas_.at(posicion_).borrada) {
     throw ErrorBD(kSinFilaActual);
   }
@@ -161,9 +257,13 @@ const Recordset::Fila& Recordset::filaActual() const {
 }
 
 int Recordset::indiceCampo(const QString& nombre) const {
+  if (const auto hallado = indices_.constFind(nombre); hallado != indices_.cend())
+    return *hallado;
   for (int i = 0; i < campos_.count(); ++i) {
-    if (campos_.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0)
+    if (campos_.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0) {
+      indices_.insert(nombre, i);
       return i;
+    }
   }
   throw ErrorBD(
       u"No se encontró el elemento en la colección que corresponde con el nombre o el ordinal "
@@ -192,6 +292,11 @@ void Recordset::addNew() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
+  if (lectura_ == Lectura::Pendiente) {
+    // Nothing was read: the rows are left in the table until something asks for them.
+    cursor_.reset();
+    lectura_ = Lectura::SinLeer;
+  }
   edicion_ = Edicion::Nueva;
   buffer_ = QList<QVariant>(campos_.count());
   cambiados_ = QList<bool>(campos_.count(), false);
@@ -200,7 +305,7 @@ void Recordset::addNew() {
 void Recordset::setField(const QString& nombre, const QVariant& valor) {
   const int i = indiceCampo(nombre);
   if (edicion_ == Edicion::Ninguna) {
-    buffer_ = filaActual().valores;
+    buffer_ = filaActual().valores.lista();
     cambiados_ = QList<bool>(campos_.count(), false);
     edicion_ = Edicion::Cambio;
   }
@@ -265,12 +370,7 @@ QVariant Recordset::convertirParaColumna(int indice, const QVariant& valor) cons
 }
 
 QString Recordset::tablaDestino() const {
-  // "select ... from NAME [where|order|group|;|end]" with a single table.
-  static const QRegularExpression re(
-      uR"(\bfrom\s+([A-Za-z_][A-Za-z0-9_]*)\s*(?:$|;|\bwhere\b|\border\b|\bgroup\b))"_s,
-      QRegularExpression::CaseInsensitiveOption);
-  const QRegularExpressionMatch m = re.match(sentencia_);
-  return m.hasMatch() ? m.captured(1) : QString();
+  return tabla_;
 }
 
 bool Recordset::claveCompleta(const Fila& fila) const {
@@ -370,6 +470,8 @@ void Recordset::update() {
   if (edicion_ == Edicion::Nueva) {
     filas_.append({buffer_, false, {}});
     posicion_ = filas_.size() - 1;
+    ++vivas_;
+    actualAgregada_ = lectura_ == Lectura::SinLeer;
   } else {
     filas_[posicion_].valores = buffer_;  // the key, read or hidden, stays as it was
   }
@@ -396,6 +498,7 @@ void Recordset::deleteRow() {
   if (!q.exec())
     throw ErrorBD(DescripcionError(q.lastError()));
   filas_[posicion_].borrada = true;
+  --vivas_;
   edicion_ = Edicion::Ninguna;
 }
 
@@ -406,6 +509,9 @@ void Recordset::requery() {
 
 void Recordset::close() {
   abierto_ = false;
+  cursor_.reset();
+  lectura_ = Lectura::Leida;
   filas_.clear();
+  vivas_ = 0;
   edicion_ = Edicion::Ninguna;
 }

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <optional>
+#include <type_traits>
+
+#include <QHash>
 #include <QList>
 #include <QSqlRecord>
 #include <QString>
 #include <QVariant>
 
-class Conexion;
+#include "conexion.h"
+#include "fila_compacta.h"
 
 // A static recordset, as the suite's programs open them: the rows of a statement are read once
 // into memory and walked with the current-row moves; fields are read by name (ignoring letter
@@ -14,6 +19,12 @@ class Conexion;
 //
 // The table to write is the single table of the statement's from clause; a row is found again
 // by the table's key, or by all its original values when the table has none.
+//
+// Rows are read when first needed, not when the statement runs: a recordset opened only to add
+// rows ("select * from productos", then addNew) never copies the table. Should such a recordset
+// be walked afterwards, the statement is read then, and the rows it added are taken from memory.
+// On PostgreSQL the rows are read as the statement runs: its driver drops a result that is not
+// read before the connection runs another statement.
 class Recordset {
  public:
   Recordset(Conexion& conexion, const QString& sentencia);
@@ -50,12 +61,28 @@ class Recordset {
  private:
   enum class Edicion { Ninguna, Nueva, Cambio };
   struct Fila {
-    QList<QVariant> valores;
+    FilaCompacta valores;
     bool borrada = false;
     QList<QVariant> clave;  // the hidden key columns' values, see claveOculta_
   };
 
+  // What a query of the connection is (the one place that runs the statement: abrirCursor()).
+  using Cursor = std::invoke_result_t<decltype(&Conexion::consultar), Conexion&, const QString&>;
+  enum class Lectura {
+    Pendiente,  // the statement ran; its rows are still in the cursor
+    Leida,      // every row is in filas_
+    SinLeer,    // rows were added before any was read: filas_ holds those rows alone
+  };
+
   void leer();
+  void abrirCursor();
+  QList<Fila> leerCursor();
+  void leerFilas();
+  // Reading rows fills a cache: the recordset's contents do not change.
+  void leerFilas() const { const_cast<Recordset*>(this)->leerFilas(); }
+  bool mismaFila(const Fila& leida, const Fila& agregada) const;
+  bool hayVivas() const;
+  void asegurarActual() const;  // reads the rows unless the current one is an added row
   void comprobarAbierto() const;
   const Fila& filaActual() const;
   int indiceCampo(const QString& nombre) const;
@@ -68,9 +95,15 @@ class Recordset {
 
   Conexion* conexion_;
   QString sentencia_;
+  QString tabla_;  // the table that changes are written to; empty when the statement has none
   QSqlRecord campos_;
   QList<Fila> filas_;
-  int posicion_ = 0;  // -1: BOF; filas_.size(): EOF
+  int vivas_ = 0;  // rows of filas_ not deleted
+  Lectura lectura_ = Lectura::Leida;
+  std::optional<Cursor> cursor_;
+  bool actualAgregada_ = false;  // while SinLeer: the current row is one this recordset added
+  mutable QHash<QString, int> indices_;  // field names as callers spell them
+  int posicion_ = 0;                     // -1: BOF; filas_.size(): EOF
   bool abierto_ = false;
   Edicion edicion_ = Edicion::Ninguna;
   QList<QVariant> buffer_;

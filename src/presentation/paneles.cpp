@@ -61,6 +61,7 @@ TablaPanel LeerTabla(Conexion& conexion, const QString& sentencia, const QString
   }
   tabla.reserve(rs.recordCount());
   const QString columnaImagen = esFamilias ? u"Imagen"_s : u"foto"_s;
+  BuscadorArchivos fotos;
   while (!rs.eof()) {
     EntradaPanel e;
     e.codigo = TextoDe(rs.field(u"codigo"_s));
@@ -72,7 +73,7 @@ TablaPanel LeerTabla(Conexion& conexion, const QString& sentencia, const QString
     const QVariant imagen = rs.field(columnaImagen);
     // A product without a picture is not looked for at all; a family always is.
     if (esFamilias || !imagen.isNull())
-      e.imagen = RutaImagenPanel(carpetaFotos, TextoDe(imagen));
+      e.imagen = RutaImagenPanel(carpetaFotos, TextoDe(imagen), fotos);
     tabla.append(e);
     rs.moveNext();
   }
@@ -103,8 +104,14 @@ QString SentenciaProductosPanel(const QString& familia, qint16 menu) {
 }
 
 QString RutaImagenPanel(const QString& carpetaFotos, const QString& archivo) {
+  BuscadorArchivos buscador;
+  return RutaImagenPanel(carpetaFotos, archivo, buscador);
+}
+
+QString RutaImagenPanel(const QString& carpetaFotos, const QString& archivo,
+                        BuscadorArchivos& buscador) {
   const QString ruta = carpetaFotos + QDir::separator() + archivo;
-  return ExisteArchivo(ruta) > 0 ? ruta : QString();
+  return buscador.existe(ruta) > 0 ? ruta : QString();
 }
 
 void CargarFamilias(Entorno& entorno, TablasPanel& tablas) {

@@ -5,6 +5,7 @@
 
 struct Entorno;
 class PanelObjNuevo;
+class BuscadorArchivos;
 
 // One button of a paged panel, as the loaders read it from a family or a product. Every field is
 // text, in this order; a field the loader has nothing for stays empty.
@@ -38,6 +39,8 @@ QString SentenciaProductosPanel(const QString& familia, qint16 menu);
 // when the file test finds it. An empty name tests the folder itself, so a folder holding any
 // file gives the folder's path; that is how the till has always behaved.
 QString RutaImagenPanel(const QString& carpetaFotos, const QString& archivo);
+QString RutaImagenPanel(const QString& carpetaFotos, const QString& archivo,
+                        BuscadorArchivos& buscador);
 
 // Fills the families table with the live families of the panel (not menus), in panel order.
 // Database failures are left to the caller (ErrorBD).

@@ -1,9 +1,12 @@
 #include "utilidades.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDate>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QWidget>
 
 #include "entorno.h"
@@ -79,25 +82,43 @@ QString LeerTipoPrograma(Entorno& entorno) {
   return tipo;
 }
 
-qint16 ExisteArchivo(const QString& ruta) {
-  if (ruta.isEmpty())
-    return 0;
+namespace {
+
+// The folder (with its final '/') and the name of a path, '\\' taken as the separator.
+std::pair<QString, QString> PartesDeRuta(const QString& ruta) {
   QString r = ruta;
   r.replace(u'\\', u'/');
   const qsizetype barra = r.lastIndexOf(u'/');
-  const QString carpeta = barra >= 0 ? r.left(barra + 1) : u"./"_s;
-  QString patron = r.mid(barra + 1);
-  if (patron.isEmpty())
-    patron = u"*"_s;
+  return {barra >= 0 ? r.left(barra + 1) : u"./"_s, r.mid(barra + 1)};
+}
 
-  const QFileInfo exacto(r);
-  if (!patron.contains(u'*') && !patron.contains(u'?') && exacto.isFile()) {
+}  // namespace
+
+qint16 BuscadorArchivos::existe(const QString& ruta) {
+  if (ruta.isEmpty())
+    return 0;
+  const auto [carpeta, patron] = PartesDeRuta(ruta);
+  const QFileInfo exacto(carpeta + patron);
+  if (!patron.isEmpty() && !patron.contains(u'*') && !patron.contains(u'?') && exacto.isFile())
     return static_cast<qint16>(exacto.fileName().size());
+  auto listado = listados_.find(carpeta);
+  if (listado == listados_.end()) {
+    QDir dir(carpeta);
+    dir.setFilter(QDir::Files);  // hidden files are not "normal" ones
+    dir.setSorting(QDir::Name | QDir::IgnoreCase);
+    listado = listados_.insert(carpeta, dir.entryList());
   }
-  QDir dir(carpeta);
-  dir.setNameFilters({patron});
-  dir.setFilter(QDir::Files);  // hidden files are not "normal" ones
-  dir.setSorting(QDir::Name | QDir::IgnoreCase);
-  const QStringList nombres = dir.entryList();
-  return nombres.isEmpty() ? 0 : static_cast<qint16>(nombres.first().size());
+  if (patron.isEmpty() || patron == u"*"_s)  // the folder's first file, with no pattern to build
+    return listado->isEmpty() ? 0 : static_cast<qint16>(listado->first().size());
+  // The name is a pattern as a folder's name filter takes it, letter case ignored.
+  const QRegularExpression re = QRegularExpression::fromWildcard(patron, Qt::CaseInsensitive);
+  for (const QString& nombre : std::as_const(*listado)) {
+    if (re.match(nombre).hasMatch())
+      return static_cast<qint16>(nombre.size());
+  }
+  return 0;
+}
+
+qint16 ExisteArchivo(const QString& ruta) {
+  return BuscadorArchivos().existe(ruta);
 }

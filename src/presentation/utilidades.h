@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 
 struct Entorno;
 class QWidget;
@@ -24,3 +26,13 @@ QString LeerTipoPrograma(Entorno& entorno);
 // length of its first file name (in name order) is returned. '\' is taken as the separator. An
 // empty path gives 0.
 qint16 ExisteArchivo(const QString& ruta);
+
+// ExisteArchivo for many paths: each folder is listed once, however many paths look in it
+// (a panel's pictures all lie in one folder).
+class BuscadorArchivos {
+ public:
+  qint16 existe(const QString& ruta);
+
+ private:
+  QHash<QString, QStringList> listados_;  // folder → its files, in name order
+};

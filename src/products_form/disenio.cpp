@@ -253,4 +253,8 @@ void HacerListaTactil(QAbstractItemView* lista) {
   lista->setStyle(estilo);
   lista->verticalScrollBar()->setStyle(estilo);
   lista->setItemDelegate(new FilaTactil(lista));
+  // Every line is one line of text: the first line's size is every line's, so that a list of
+  // the whole catalogue is laid out without measuring each of its lines.
+  if (auto* lineas = qobject_cast<QListView*>(lista))
+    lineas->setUniformItemSizes(true);
 }

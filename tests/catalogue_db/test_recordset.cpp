@@ -23,6 +23,8 @@ class TestRecordset : public QObject {
   void altaCambioYBorrado();
   void tablasSinClave_data() { MotoresPrueba::agregarFilas(); }
   void tablasSinClave();
+  void recorrerTrasAgregarSinLeer_data() { MotoresPrueba::agregarFilas(); }
+  void recorrerTrasAgregarSinLeer();
   void requery_data() { MotoresPrueba::agregarFilas(); }
   void requery();
   void borrarEnBucle_data() { MotoresPrueba::agregarFilas(); }
@@ -267,6 +269,39 @@ void TestRecordset::tablasSinClave() {
   QCOMPARE(filas[0][2].toInt(), -1);
   QCOMPARE(filas[1][1].toInt(), 1);
   QCOMPARE(filas[1][2].toInt(), 0);
+}
+
+// Rows added before any row was read: the recordset shows the rows that were there, then the
+// added ones, as if it had read them all first; a row equal to an added one is not lost.
+void TestRecordset::recorrerTrasAgregarSinLeer() {
+  QFETCH(QString, motor);
+  Conexion c;
+  ABRIR_NUEVA(*motores_, c, motor);
+  c.ejecutar(u"insert into productoproveedor (producto, proveedor, coste) values ('1', 'P1', 0)"_s);
+  c.ejecutar(u"insert into stock (producto, stock) values (1, 5)"_s);
+  Recordset enlaces(c, u"Select * from productoproveedor"_s);
+  Recordset stock(c, u"select * from stock"_s);
+  for (const QString& proveedor : {u"P1"_s, u"P2"_s}) {
+    enlaces.addNew();
+    enlaces.setField(u"producto"_s, u"1"_s);
+    enlaces.setField(u"proveedor"_s, proveedor);
+    enlaces.setField(u"coste"_s, 0.0);
+    enlaces.update();
+  }
+  stock.addNew();
+  stock.setField(u"Producto"_s, 2);
+  stock.update();
+  QCOMPARE(enlaces.field(u"proveedor"_s).toString(), u"P2"_s);
+  QCOMPARE(enlaces.recordCount(), 3);
+  QStringList vistos;
+  for (enlaces.moveFirst(); !enlaces.eof(); enlaces.moveNext())
+    vistos << enlaces.field(u"proveedor"_s).toString();
+  QCOMPARE(vistos, (QStringList{u"P1"_s, u"P1"_s, u"P2"_s}));
+  QVERIFY(!stock.eof());
+  QCOMPARE(stock.field(u"producto"_s).toInt(), 2);
+  stock.moveFirst();
+  QCOMPARE(stock.field(u"producto"_s).toInt(), 1);
+  QCOMPARE(stock.recordCount(), 2);
 }
 
 void TestRecordset::requery() {
