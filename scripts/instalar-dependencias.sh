@@ -13,7 +13,7 @@ paquetes=(
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libqt6sql6-sqlite libqt6sql6-odbc libqt6sql6-psql
   # the engines behind them
-  libsqlite3-dev
+  libsqlite3-dev libpq-dev
   unixodbc unixodbc-dev odbcinst libsqliteodbc odbc-postgresql
   postgresql postgresql-contrib
   # tests: Google Test and Benchmark, a virtual display, a font for offscreen screens,

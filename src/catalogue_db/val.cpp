@@ -17,7 +17,8 @@ double ValJet(QStringView texto) {
     const int radix = base == u'H' ? 16 : (base == u'O' ? 8 : 0);
     if (radix != 0) {
       qsizetype i = 2;
-      long long valor = 0;
+      // Summed as a double: a long run of digits grows past every integer type.
+      double valor = 0;
       while (i < s.size()) {
         const int d = s.at(i).isDigit()
                           ? s.at(i).digitValue()
@@ -29,7 +30,7 @@ double ValJet(QStringView texto) {
         valor = valor * radix + d;
         ++i;
       }
-      return static_cast<double>(valor);
+      return valor;
     }
   }
   qsizetype i = 0;
