@@ -156,8 +156,12 @@ class ResultadoPostgres : public QSqlResult {
 };
 
 PGconn* ConexionLibpq(const QSqlDatabase& bd) {
+  if (bd.driverName() != u"QPSQL"_s)
+    return nullptr;
+  // Qt's driver gives its libpq connection as a QVariant of PGconn*, which the meta-type system
+  // names after the struct's tag.
   const QVariant h = bd.driver()->handle();
-  if (qstrcmp(h.typeName(), "PGconn*") != 0)
+  if (qstrcmp(h.typeName(), "PGconn*") != 0 && qstrcmp(h.typeName(), "pg_conn*") != 0)
     return nullptr;
   return *static_cast<PGconn* const*>(h.constData());
 }

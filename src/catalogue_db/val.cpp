@@ -5,6 +5,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+std::optional<qint64> ValEntero(QStringView texto) {
+  const double v = std::floor(ValJet(texto));
+  // 2^63 is the first double beyond qint64; below it every whole double converts exactly.
+  if (v < -9223372036854775808.0 || v >= 9223372036854775808.0)
+    return std::nullopt;
+  return static_cast<qint64>(v);
+}
+
 double ValJet(QStringView texto) {
   QString s;
   s.reserve(texto.size());
