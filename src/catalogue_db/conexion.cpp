@@ -266,6 +266,8 @@ void Conexion::comenzarTransaccion(const QString& serializarEn) {
     if (motor_ == Motor::PostgreSQL) {
       // A lock of the program's own, held to the end of the transaction: other terminals doing
       // the same wait, and nothing else that uses the table does.
+      // Waiting is bounded as SQLite's busy timeout bounds it.
+      ejecutar(u"set local lock_timeout = '10s'"_s);
       consultar(u"select pg_advisory_xact_lock(hashtext('"_s + serializarEn + u"'))"_s);
     } else {
       // A write that changes nothing takes SQLite's write lock now, before anything is read.

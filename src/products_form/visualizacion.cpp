@@ -149,8 +149,12 @@ void Visualizacion::AbrirProductos(int tipo) {
 QString Visualizacion::lineaImpresora(const QString& nombre, const QString& impresora) {
   if (impresora.isEmpty() || impresora == u"0"_s)
     return {};
+  // Printer codes are 16-bit; one beyond names no printer that can be looked up.
+  const qint64 codigo = ValEntero(impresora).value_or(0);
   const QString nombreImpresora =
-      ObtenerNomImpresora(*entorno_.ConexionBD, static_cast<qint16>(ValJet(impresora)));
+      codigo < -32768 || codigo > 32767
+          ? QString()
+          : ObtenerNomImpresora(*entorno_.ConexionBD, static_cast<qint16>(codigo));
   return nombreImpresora.isEmpty() ? LineaImpresoraEliminada(nombre)
                                    : LineaImpresora(nombre, nombreImpresora);
 }

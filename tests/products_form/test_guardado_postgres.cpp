@@ -21,7 +21,6 @@ class TestGuardadoPostgres : public QObject {
  private slots:
   void initTestCase();
   void grabaModificaYEliminaComoEnSQLite();
-  void dosTerminalesNoCompartenCodigo();
 
  private:
   std::unique_ptr<PostgresPrueba> pg_;
@@ -132,37 +131,6 @@ void TestGuardadoPostgres::grabaModificaYEliminaComoEnSQLite() {
   QCOMPARE(Filas(c, u"select borrar from productos where codigo = '10'"_s),
            (QList<QVariantList>{{-1}}));
   QVERIFY(Filas(c, u"select * from stock"_s).isEmpty());
-  QVERIFY(inst.erroresMostrados().isEmpty());
-}
-
-void TestGuardadoPostgres::dosTerminalesNoCompartenCodigo() {
-  InstalacionPrueba inst;
-  UsarPostgres(inst, origen_);
-  InstalacionPrueba otra;
-  UsarPostgres(otra, origen_);
-  inst.conexion().ejecutar(u"delete from productos"_s);
-  inst.conexion().ejecutar(u"delete from stock"_s);
-
-  ProductoFormulario deOtra = Cana();
-  deOtra.nombre = u"De la otra terminal"_s;
-  QList<qint64> asignados;
-  std::optional<qint64> codigoOtra;
-  // This terminal reads the next code; before it writes, the other one saves under it.
-  auto asignar = [&](Conexion& conexion) {
-    const qint64 codigo = CodigoProductoNuevo(conexion);
-    if (asignados.isEmpty())
-      codigoOtra = GrabarProductoNuevo(otra.entorno(), deOtra);
-    asignados.append(codigo);
-    return codigo;
-  };
-  const std::optional<qint64> codigo = GrabarProductoNuevo(inst.entorno(), Cana(), asignar);
-  QCOMPARE(codigoOtra, std::optional<qint64>(1));
-  QCOMPARE(asignados, (QList<qint64>{1, 2}));
-  QCOMPARE(codigo, std::optional<qint64>(2));
-  QCOMPARE(Filas(inst.conexion(), u"select codigo, nombre from productos order by codigo"_s),
-           (QList<QVariantList>{{u"1"_s, u"De la otra terminal"_s}, {u"2"_s, u"Caña"_s}}));
-  QCOMPARE(Filas(inst.conexion(), u"select producto from stock order by producto"_s),
-           (QList<QVariantList>{{1}, {2}}));
   QVERIFY(inst.erroresMostrados().isEmpty());
 }
 
