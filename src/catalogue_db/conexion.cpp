@@ -3,9 +3,13 @@
 #include <sql.h>
 #include <sqlext.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QAtomicInt>
+#include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSqlDriver>
 #include <QSqlError>
 
@@ -26,6 +30,27 @@ void FuncionVal(sqlite3_context* contexto, int, sqlite3_value** argumentos) {
   }
   const auto* texto = reinterpret_cast<const char*>(sqlite3_value_text(argumentos[0]));
   sqlite3_result_double(contexto, ValJet(QString::fromUtf8(texto ? texto : "")));
+}
+
+// Waiting for SQLite's write lock. SQLite's own busy timeout polls with sleeps of up to 100 ms,
+// so that a writer that has just committed takes the lock again before the sleepers wake, and
+// among ten terminals saving at once one may wait past any timeout while the others go on. Here
+// a connection polls every few milliseconds, and gives up only when the file has not changed for
+// the whole timeout: while other writers commit, its turn is coming; when the file stands still,
+// the lock's holder is stuck.
+int EsperarTurno(void* dato, int intentos) {
+  auto* espera = static_cast<EsperaSQLite*>(dato);
+  struct stat info {};
+  const bool hay = ::stat(espera->archivo.constData(), &info) == 0;
+  const qint64 marca = hay ? info.st_mtim.tv_sec * 1000000000LL + info.st_mtim.tv_nsec : 0;
+  if (intentos == 0 || marca != espera->marca) {
+    espera->marca = marca;
+    espera->reloj.start();
+  }
+  if (espera->reloj.hasExpired(kEsperaSQLiteMs))
+    return 0;
+  ::usleep(1000 + QRandomGenerator::global()->bounded(2000));
+  return 1;
 }
 
 QString InformacionOdbc(QSqlDatabase& bd, SQLUSMALLINT dato) {
@@ -165,6 +190,8 @@ void Conexion::despuesDeAbrir(const QString& rutaArchivo) {
       if (manejador) {
         sqlite3_create_function(manejador, "val", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
                                 &FuncionVal, nullptr, nullptr);
+        espera_.archivo = QFile::encodeName(rutaArchivo);
+        sqlite3_busy_handler(manejador, &EsperarTurno, &espera_);
       }
     }
   } else if (driver == u"QPSQL"_s) {

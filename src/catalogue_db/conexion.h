@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -8,6 +9,14 @@
 
 #include "dialecto.h"
 #include "origenes_datos.h"
+
+// How long a SQLite connection waits for the write lock while the file stands still.
+inline constexpr qint64 kEsperaSQLiteMs = 10000;
+struct EsperaSQLite {
+  QByteArray archivo;
+  qint64 marca = 0;  // the file's last modification time seen, in nanoseconds
+  QElapsedTimer reloj;
+};
 
 // One open database connection, as the suite's programs hold it: opened from a connection
 // string, it executes statements and feeds recordsets. Every statement passes the dialect
@@ -64,6 +73,7 @@ class Conexion {
   QSqlDatabase bd_;
   Motor motor_ = Motor::Access;
   QString rutaPredeterminada_;
+  EsperaSQLite espera_;
 };
 
 // A transaction on a connection: rolled back unless confirmed. Given a table name, serialised

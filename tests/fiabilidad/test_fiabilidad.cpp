@@ -165,12 +165,9 @@ void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia_data() {
 // that refuses a second statement. No table may change.
 void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia() {
   QFETCH(QString, motor);
-  QTemporaryDir dir;
-  Instalacion instalacion;
-  instalacion.carpetaPrograma = dir.path();
-  DialogosGuion dialogos;
-  Entorno entorno(instalacion, dialogos);
-  Conexion& c = *entorno.ConexionBD;
+  InstalacionPrueba prueba;
+  Entorno& entorno = prueba.entorno();
+  Conexion& c = prueba.conexion();
   ABRIR_NUEVA(*motores_, c, motor);
   c.ejecutar(
       u"insert into productos (codigo, nombre, codigobarras, borrar) values ('1', 'Caña', "
@@ -203,8 +200,7 @@ void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia() {
       ++motorRechaza;
     }
   }
-  QFile log(QDir(dir.path()).filePath(u"Errores.log"_s));
-  rechazadas += log.open(QIODevice::ReadOnly) ? log.readAll().count("\r\n") : 0;
+  rechazadas += prueba.log().count("\r\n");
   QCOMPARE(Contenido(c), antes);
   qInfo(
       "%s: %lld sentencias, %lld ejecutadas, %d rechazadas; sin la guarda, el motor rechaza %d "
@@ -265,12 +261,8 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques_data() {
 void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
   QFETCH(QString, motor);
   const int terminales = 10, n = kLarga ? 200 : 10;
-  QTemporaryDir dir;
-  DialogosGuion dialogos;
-  Instalacion instalacion;
-  instalacion.carpetaPrograma = dir.path();
-  Entorno otra(instalacion, dialogos);
-  Conexion& c = *otra.ConexionBD;
+  InstalacionPrueba otra;
+  Conexion& c = otra.conexion();
   ABRIR_NUEVA(*motores_, c, motor);
   QStringList destino{motor, c.bd().databaseName(), u"0"_s, u""_s};
   if (motor == u"postgresql"_s) {
@@ -283,7 +275,8 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
   reloj.start();
   QList<QProcess*> procesos;
   for (int i = 0; i < terminales; ++i)
-    procesos.append(LanzarTerminal(destino + QStringList{QString::number(n), dir.path()}, this));
+    procesos.append(
+        LanzarTerminal(destino + QStringList{QString::number(n), otra.carpeta()}, this));
   int grabados = 0, rechazados = 0;
   for (QProcess* p : procesos) {
     QVERIFY(p->waitForFinished(600000));
@@ -293,15 +286,14 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
     rechazados += cifras.at(1).section(u' ', 1, 1).toInt();
   }
   const qint64 ms = reloj.elapsed();
-  QFile log(QDir(dir.path()).filePath(u"Errores.log"_s));
-  log.open(QIODevice::ReadOnly);
-  QVERIFY2(rechazados == 0, log.readAll().constData());
+  QVERIFY2(rechazados == 0, otra.log().constData());
   QCOMPARE(grabados, terminales * n);
   QCOMPARE(Violaciones(c), QStringList());
   qInfo("%s: %d terminales x %d: %d grabados, %d rechazados, 0 violaciones, %lld ms",
         qPrintable(motor), terminales, n, grabados, rechazados, ms);
   // Its suppliers, accepted now, go under the next free code, not onto the saved product 1.
-  QCOMPARE(GuardarProveedoresProductoNuevo(otra, ofrecido, {LineaProveedor(u"Dos"_s, u"P02"_s)}),
+  QCOMPARE(GuardarProveedoresProductoNuevo(otra.entorno(), ofrecido,
+                                           {LineaProveedor(u"Dos"_s, u"P02"_s)}),
            std::optional<qint64>(grabados + 1));
   QCOMPARE(FilasDe(c, u"select proveedor from productoproveedor where producto = '1'"_s),
            (QList<QVariantList>{{u"P01"_s}}));
@@ -341,21 +333,15 @@ void TestFiabilidad::matarDuranteGrabacionesDejaLaBaseIntegra() {
 // A log that cannot be written (here a folder stands where the file goes) stops nothing: each
 // error is still shown, and the manager is told once. A written entry is one line.
 void TestFiabilidad::registroNoEscribibleNoDetieneNadaYCadaEntradaEsUnaLinea() {
-  QTemporaryDir dir;
-  QVERIFY(QDir(dir.path()).mkdir(u"Errores.log"_s));
-  Instalacion instalacion;
-  instalacion.carpetaPrograma = dir.path();
-  DialogosGuion dialogos;
-  Entorno entorno(instalacion, dialogos);
-  int mostrados = 0;
-  entorno.registro.setMostrar([&](const QString&, const QString&) { ++mostrados; });
-  entorno.RegistrarError(u"opciones  1"_s, u"uno"_s);
-  entorno.RegistrarError(u"opciones  1"_s, u"dos"_s);
-  QCOMPARE(mostrados, 2);
-  QCOMPARE(dialogos.mensajes(),
+  InstalacionPrueba sinLog;
+  QVERIFY(QDir(sinLog.carpeta()).mkdir(u"Errores.log"_s));
+  sinLog.entorno().RegistrarError(u"opciones  1"_s, u"uno"_s);
+  sinLog.entorno().RegistrarError(u"opciones  1"_s, u"dos"_s);
+  QCOMPARE(sinLog.erroresMostrados().size(), 2);
+  QCOMPARE(sinLog.dialogos().mensajes(),
            QStringList{u"No se puede escribir en el registro de errores %1: %2"_s.arg(
-               QDir(dir.path()).filePath(u"Errores.log"_s), u"Is a directory"_s)});
-  QCOMPARE(dialogos.llamadas().first().icono, ServicioDialogos::Icono::Critico);
+               QDir(sinLog.carpeta()).filePath(u"Errores.log"_s), u"Is a directory"_s)});
+  QCOMPARE(sinLog.dialogos().llamadas().first().icono, ServicioDialogos::Icono::Critico);
 
   InstalacionPrueba prueba;
   prueba.entorno().RegistrarError(u"Base de datos  16"_s,

@@ -9,18 +9,20 @@
 #include "instalacion_prueba.h"
 #include "listas_productos.h"
 #include "postgres_prueba.h"
+#include "principal.h"
 #include "producto_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // Installations with many terminals keep the catalogue on PostgreSQL: what a save writes there
-// must be what the other programs read, column by column, and two terminals saving at once must
-// still get distinct codes.
+// must be what the other programs read, column by column (terminals saving at once: the
+// reliability suite).
 class TestGuardadoPostgres : public QObject {
   Q_OBJECT
  private slots:
   void initTestCase();
   void grabaModificaYEliminaComoEnSQLite();
+  void unaBaseDelServidorNoTieneNombreDeArchivo();
 
  private:
   std::unique_ptr<PostgresPrueba> pg_;
@@ -132,6 +134,15 @@ void TestGuardadoPostgres::grabaModificaYEliminaComoEnSQLite() {
            (QList<QVariantList>{{-1}}));
   QVERIFY(Filas(c, u"select * from stock"_s).isEmpty());
   QVERIFY(inst.erroresMostrados().isEmpty());
+}
+
+// "bar" is no "velandria.mdb", and a server's database is no file on a drive: nothing to check.
+void TestGuardadoPostgres::unaBaseDelServidorNoTieneNombreDeArchivo() {
+  InstalacionPrueba inst;
+  UsarPostgres(inst, pg_->crearBaseDatos(u"bar"_s));
+  UbicarBaseDeDatos(inst.entorno());
+  QVERIFY(!inst.entorno().sesion.BDEnOtraUnidad);
+  QVERIFY(inst.entorno().sesion.RutaFotosBD.isEmpty());
 }
 
 QTEST_MAIN(TestGuardadoPostgres)
