@@ -203,10 +203,12 @@ void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia() {
   rechazadas += prueba.log().count("\r\n");
   QCOMPARE(Contenido(c), antes);
   qInfo(
-      "%s: %lld sentencias, %lld ejecutadas, %d rechazadas; sin la guarda, el motor rechaza %d "
-      "de %lld; tablas cambiadas: 0",
+      "%s: %lld sentencias, %lld ejecutadas, %d rechazadas; sin la guarda, el motor rechaza %s; "
+      "tablas cambiadas: 0",
       qPrintable(motor), 3 * fragmentos.size(), 3 * fragmentos.size() - rechazadas, rechazadas,
-      motorRechaza, fragmentos.size());
+      motor == u"odbc-postgresql"_s
+          ? "(no probado: psqlODBC ejecuta cada sentencia)"
+          : qPrintable(u"%1 de %2"_s.arg(motorRechaza).arg(fragmentos.size())));
 }
 
 // Every integer column refuses a value beyond 32 bits, whatever its type, with the message the
