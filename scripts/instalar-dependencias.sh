@@ -19,7 +19,7 @@ paquetes=(
   # the Debian package (cpack -G DEB finds its dependencies with dpkg-shlibdeps)
   dpkg-dev
   # the engines behind them
-  libsqlite3-dev
+  libsqlite3-dev libpq-dev
   unixodbc unixodbc-dev odbcinst libsqliteodbc odbc-postgresql
   postgresql postgresql-contrib
   # tests: Google Test and Benchmark, a virtual display, a font for offscreen screens,

@@ -3,13 +3,18 @@
 #include <sql.h>
 #include <sqlext.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QAtomicInt>
+#include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSqlDriver>
 #include <QSqlError>
 
 #include "error_bd.h"
+#include "postgres_nativo.h"
 #include "val.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,6 +30,27 @@ void FuncionVal(sqlite3_context* contexto, int, sqlite3_value** argumentos) {
   }
   const auto* texto = reinterpret_cast<const char*>(sqlite3_value_text(argumentos[0]));
   sqlite3_result_double(contexto, ValJet(QString::fromUtf8(texto ? texto : "")));
+}
+
+// Waiting for SQLite's write lock. SQLite's own busy timeout polls with sleeps of up to 100 ms,
+// so that a writer that has just committed takes the lock again before the sleepers wake, and
+// among ten terminals saving at once one may wait past any timeout while the others go on. Here
+// a connection polls every few milliseconds, and gives up only when the file has not changed for
+// the whole timeout: while other writers commit, its turn is coming; when the file stands still,
+// the lock's holder is stuck.
+int EsperarTurno(void* dato, int intentos) {
+  auto* espera = static_cast<EsperaSQLite*>(dato);
+  struct stat info {};
+  const bool hay = ::stat(espera->archivo.constData(), &info) == 0;
+  const qint64 marca = hay ? info.st_mtim.tv_sec * 1000000000LL + info.st_mtim.tv_nsec : 0;
+  if (intentos == 0 || marca != espera->marca) {
+    espera->marca = marca;
+    espera->reloj.start();
+  }
+  if (espera->reloj.hasExpired(kEsperaSQLiteMs))
+    return 0;
+  ::usleep(1000 + QRandomGenerator::global()->bounded(2000));
+  return 1;
 }
 
 QString InformacionOdbc(QSqlDatabase& bd, SQLUSMALLINT dato) {
@@ -164,6 +190,8 @@ void Conexion::despuesDeAbrir(const QString& rutaArchivo) {
       if (manejador) {
         sqlite3_create_function(manejador, "val", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
                                 &FuncionVal, nullptr, nullptr);
+        espera_.archivo = QFile::encodeName(rutaArchivo);
+        sqlite3_busy_handler(manejador, &EsperarTurno, &espera_);
       }
     }
   } else if (driver == u"QPSQL"_s) {
@@ -183,49 +211,100 @@ void Conexion::despuesDeAbrir(const QString& rutaArchivo) {
   }
 }
 
-QSqlQuery Conexion::preparar(const QString& sentencia) {
+QString Conexion::textoParaMotor(const QString& sentencia) const {
   if (!abierta())
     throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
-  if (TieneSegundaSentencia(sentencia)) {
+  // The guard reads the text that the engine will receive, after the dialect's rewrites.
+  const QString texto = AdaptarSentencia(sentencia, motor_);
+  comprobarUnaSentencia(texto);
+  return texto;
+}
+
+void Conexion::comprobarUnaSentencia(const QString& texto) const {
+  if (!abierta())
+    throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
+  if (TieneSegundaSentencia(texto)) {
     throw ErrorBD(u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
   }
+}
+
+QSqlQuery Conexion::correr(const QString& texto) {
+  if (EsPostgresNativo(bd_))
+    return EjecutarEnPostgres(bd_, texto);
+  // exec() hands the text to the driver as it stands. prepare() would first rewrite the text's
+  // ":name" marks into "?" (and Qt's PostgreSQL driver its "?" into "$1"), so that a spliced
+  // value could change what the engine reads. SQLite's own prepare still refuses a text with a
+  // second statement.
   QSqlQuery q(bd_);
   q.setForwardOnly(true);
-  if (!q.prepare(AdaptarSentencia(sentencia, motor_)))
+  if (!q.exec(texto))
     throw ErrorBD(DescripcionError(q.lastError()));
   return q;
 }
 
 int Conexion::ejecutar(const QString& sentencia) {
-  QSqlQuery q = preparar(sentencia);
+  return correr(textoParaMotor(sentencia)).numRowsAffected();
+}
+
+QSqlQuery Conexion::consultar(const QString& sentencia) {
+  return correr(textoParaMotor(sentencia));
+}
+
+void Conexion::ejecutarDirecto(const QString& sentencia) {
+  comprobarUnaSentencia(sentencia);
+  correr(sentencia);
+}
+
+int Conexion::ejecutar(const QString& sentencia, const QList<QVariant>& valores) {
+  comprobarUnaSentencia(sentencia);
+  if (EsPostgresNativo(bd_)) {
+    // The program's own text has its "?" marks only where values go.
+    QString texto;
+    int n = 0;
+    for (QChar c : sentencia)
+      texto += c == u'?' ? u'$' + QString::number(++n) : QString(c);
+    return EjecutarEnPostgres(bd_, texto, valores).numRowsAffected();
+  }
+  QSqlQuery q(bd_);
+  if (!q.prepare(sentencia))
+    throw ErrorBD(DescripcionError(q.lastError()));
+  for (const QVariant& v : valores)
+    q.addBindValue(v);
   if (!q.exec())
     throw ErrorBD(DescripcionError(q.lastError()));
   return q.numRowsAffected();
 }
 
-QSqlQuery Conexion::consultar(const QString& sentencia) {
-  QSqlQuery q = preparar(sentencia);
-  if (!q.exec())
-    throw ErrorBD(DescripcionError(q.lastError()));
-  return q;
-}
-
-void Conexion::ejecutarDirecto(const QString& sentencia) {
+void Conexion::comenzarTransaccion(const QString& serializarEn) {
   if (!abierta())
     throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
-  if (TieneSegundaSentencia(sentencia)) {
-    throw ErrorBD(u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
+  if (motor_ == Motor::SQLite) {
+    // Every transaction of the program writes. Deferred, it would read first and then find the
+    // file locked by another writer, which SQLite reports at once instead of waiting; immediate,
+    // it waits its turn under the busy timeout, and a serialised one is serialised by it.
+    correr(u"BEGIN IMMEDIATE"_s);
+    return;
   }
-  QSqlQuery q(bd_);
-  if (!q.exec(sentencia))
-    throw ErrorBD(DescripcionError(q.lastError()));
-}
-
-void Conexion::comenzarTransaccion() {
-  if (!abierta() || !bd_.transaction())
+  if (!bd_.transaction())
     throw ErrorBD(DescripcionError(bd_.lastError()));
+  if (serializarEn.isEmpty())
+    return;
+  try {
+    if (motor_ == Motor::PostgreSQL) {
+      // A lock of the program's own, held to the end of the transaction: other terminals doing
+      // the same wait, and nothing else that uses the table does.
+      // Waiting is bounded as SQLite's busy timeout bounds it.
+      ejecutar(u"set local lock_timeout = '10s'"_s);
+      consultar(u"select pg_advisory_xact_lock(hashtext('"_s + serializarEn + u"'))"_s);
+    } else {
+      // A write that changes nothing takes SQLite's write lock now, before anything is read.
+      ejecutar(u"delete from "_s + serializarEn + u" where 1 = 0"_s);
+    }
+  } catch (const ErrorBD&) {
+    deshacerTransaccion();
+    throw;
+  }
 }
-
 void Conexion::confirmarTransaccion() {
   if (!bd_.commit())
     throw ErrorBD(DescripcionError(bd_.lastError()));
@@ -235,8 +314,8 @@ void Conexion::deshacerTransaccion() {
   bd_.rollback();
 }
 
-Transaccion::Transaccion(Conexion& conexion) : conexion_(conexion) {
-  conexion_.comenzarTransaccion();
+Transaccion::Transaccion(Conexion& conexion, const QString& serializarEn) : conexion_(conexion) {
+  conexion_.comenzarTransaccion(serializarEn);
 }
 
 Transaccion::~Transaccion() {

@@ -1,15 +1,28 @@
 #pragma once
 
+#include <QElapsedTimer>
+#include <QList>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
+#include <QVariant>
 
 #include "dialecto.h"
 #include "origenes_datos.h"
 
+// How long a SQLite connection waits for the write lock while the file stands still.
+inline constexpr qint64 kEsperaSQLiteMs = 10000;
+struct EsperaSQLite {
+  QByteArray archivo;
+  qint64 marca = 0;  // the file's last modification time seen, in nanoseconds
+  QElapsedTimer reloj;
+};
+
 // One open database connection, as the suite's programs hold it: opened from a connection
 // string, it executes statements and feeds recordsets. Every statement passes the dialect
-// adapter, is refused when it would run a second statement, and is prepared before it runs.
+// adapter and is refused when the text sent would run a second statement; the engine itself
+// refuses one too where it can: SQLite's prepare, and on PostgreSQL the extended query protocol
+// (see postgres_nativo.h). A text goes to the driver as it stands, with no placeholder rewritten.
 // Failures are thrown as ErrorBD with the driver's description.
 class Conexion {
  public:
@@ -32,6 +45,9 @@ class Conexion {
   // Runs one of the program's own schema statements without the adapter (DDL cannot be
   // prepared on every engine); still refused when it would run a second statement.
   void ejecutarDirecto(const QString& sentencia);
+  // Runs a statement of the program's own making, with no value spliced in, binding the values
+  // to its "?" marks in order; the result is the number of rows it touched.
+  int ejecutar(const QString& sentencia, const QList<QVariant>& valores);
 
   Motor motor() const { return motor_; }
   // The engine's "default database path": a file database's path without its extension,
@@ -39,12 +55,17 @@ class Conexion {
   QString rutaPredeterminada() const { return rutaPredeterminada_; }
   QSqlDatabase& bd() { return bd_; }
 
-  void comenzarTransaccion();
+  // Starts a transaction. Given a table name, it is serialised: one connection at a time,
+  // among those that name the same table, holds such a transaction, from its start to its end,
+  // so that what it reads (the largest code) stays true until it writes.
+  void comenzarTransaccion(const QString& serializarEn = {});
   void confirmarTransaccion();
   void deshacerTransaccion();
 
  private:
-  QSqlQuery preparar(const QString& sentencia);
+  QString textoParaMotor(const QString& sentencia) const;
+  void comprobarUnaSentencia(const QString& texto) const;
+  QSqlQuery correr(const QString& texto);
   void despuesDeAbrir(const QString& rutaArchivo);
   void fallar(const QString& descripcion);
 
@@ -52,12 +73,14 @@ class Conexion {
   QSqlDatabase bd_;
   Motor motor_ = Motor::Access;
   QString rutaPredeterminada_;
+  EsperaSQLite espera_;
 };
 
-// A transaction on a connection: rolled back unless confirmed.
+// A transaction on a connection: rolled back unless confirmed. Given a table name, serialised
+// as Conexion::comenzarTransaccion says.
 class Transaccion {
  public:
-  explicit Transaccion(Conexion& conexion);
+  explicit Transaccion(Conexion& conexion, const QString& serializarEn = {});
   ~Transaccion();
   Transaccion(const Transaccion&) = delete;
   Transaccion& operator=(const Transaccion&) = delete;

@@ -349,6 +349,9 @@ QVariant Recordset::convertirParaColumna(int indice, const QVariant& valor) cons
   QVariant v = valor;
   if (valor.metaType() == QMetaType::fromType<bool>() && numerico) {
     v = valor.toBool() ? -1 : 0;  // the suite's booleans are -1 and 0
+  } else if (tipo == QMetaType::fromType<int>() && valor.canConvert<double>() &&
+             valor.metaType() != QMetaType::fromType<QString>()) {
+    v = valor.toDouble();  // a wider integer is range-checked below, never cut to 32 bits
   } else if (valor.metaType() == QMetaType::fromType<QString>() && numerico) {
     bool ok = false;
     const double d = valor.toString().trimmed().toDouble(&ok);
@@ -427,7 +430,6 @@ void Recordset::update() {
   if (tabla.isEmpty()) {
     throw ErrorBD(u"No se puede actualizar: la consulta no tiene una única tabla de origen"_s);
   }
-  QSqlQuery q(conexion_->bd());
   QList<QVariant> valores;
   QString sql;
   if (edicion_ == Edicion::Nueva) {
@@ -456,13 +458,8 @@ void Recordset::update() {
     sql = u"update "_s + tabla + u" set "_s + asignaciones.join(u", "_s) + u" where "_s +
           condicionFila(filaActual(), valores);
   }
-  if (!q.prepare(sql))
-    throw ErrorBD(DescripcionError(q.lastError()));
-  for (const QVariant& v : std::as_const(valores))
-    q.addBindValue(v);
-  if (!q.exec())
-    throw ErrorBD(DescripcionError(q.lastError()));
-  if (edicion_ == Edicion::Cambio && q.numRowsAffected() == 0) {
+  const int tocadas = conexion_->ejecutar(sql, valores);
+  if (edicion_ == Edicion::Cambio && tocadas == 0) {
     throw ErrorBD(
         u"No se encuentra la fila para actualizar. Es posible que se hayan cambiado algunos "
         "valores desde la última vez que se leyó."_s);
@@ -490,13 +487,7 @@ void Recordset::deleteRow() {
   }
   QList<QVariant> valores;
   const QString sql = u"delete from "_s + tabla + u" where "_s + condicionFila(fila, valores);
-  QSqlQuery q(conexion_->bd());
-  if (!q.prepare(sql))
-    throw ErrorBD(DescripcionError(q.lastError()));
-  for (const QVariant& v : std::as_const(valores))
-    q.addBindValue(v);
-  if (!q.exec())
-    throw ErrorBD(DescripcionError(q.lastError()));
+  conexion_->ejecutar(sql, valores);
   filas_[posicion_].borrada = true;
   --vivas_;
   edicion_ = Edicion::Ninguna;

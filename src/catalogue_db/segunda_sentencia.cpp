@@ -17,6 +17,7 @@ struct Lexico {
   bool dolares = false;              // $tag$...$tag$ (PostgreSQL)
   bool corchetes = false;            // [name] and `name` (SQLite)
   bool comentariosAnidados = false;  // /* /* */ */ (PostgreSQL)
+  bool finDeLineaCR = false;         // a "--" comment also ends at a carriage return (PostgreSQL)
 };
 
 bool EsLetraDeNombre(QChar c) {
@@ -42,6 +43,12 @@ qsizetype FinCitado(const QString& s, qsizetype i, QChar cierre, bool barra) {
   return s.size();
 }
 
+// A character of a dollar quote's tag as PostgreSQL reads it: ASCII letters and digits, '_',
+// and every character outside ASCII, whatever it is ("$€$" is a tag).
+bool EsLetraDeEtiqueta(QChar c) {
+  return (c.unicode() < 0x80 && c.isLetterOrNumber()) || c == u'_' || c.unicode() >= 0x80;
+}
+
 // The tag of a dollar quote starting at i ("$$" or "$name$"), or an empty text.
 QString EtiquetaDolar(const QString& s, qsizetype i) {
   if (i > 0 && EsLetraDeNombre(s.at(i - 1)))
@@ -49,7 +56,7 @@ QString EtiquetaDolar(const QString& s, qsizetype i) {
   qsizetype j = i + 1;
   if (j < s.size() && s.at(j).isDigit())
     return {};  // $1 is a parameter
-  while (j < s.size() && s.at(j) != u'$' && (s.at(j).isLetterOrNumber() || s.at(j) == u'_'))
+  while (j < s.size() && EsLetraDeEtiqueta(s.at(j)))
     ++j;
   if (j >= s.size() || s.at(j) != u'$')
     return {};
@@ -81,7 +88,12 @@ bool SegundaSentenciaSegun(const QString& s, const Lexico& lx) {
     const QChar sig = i + 1 < s.size() ? s.at(i + 1) : QChar();
     qsizetype fin = -1;  // end of a quoted piece that counts as SQL after a ';'
     if (c == u'-' && sig == u'-') {
-      const qsizetype nl = s.indexOf(u'\n', i);
+      qsizetype nl = s.indexOf(u'\n', i);
+      if (lx.finDeLineaCR) {
+        const qsizetype cr = s.indexOf(u'\r', i);
+        if (cr >= 0 && (nl < 0 || cr < nl))
+          nl = cr;
+      }
       i = nl < 0 ? s.size() : nl + 1;
       continue;
     }
@@ -132,6 +144,7 @@ bool TieneSegundaSentencia(const QString& sentencia) {
   postgres.cadenasE = true;
   postgres.dolares = true;
   postgres.comentariosAnidados = true;
+  postgres.finDeLineaCR = true;
   Lexico postgresConBarras = postgres;
   postgresConBarras.barraEnCadenas = true;
   for (const Lexico& lx : {sqlite, postgres, postgresConBarras}) {

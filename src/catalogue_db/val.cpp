@@ -5,6 +5,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+std::optional<qint64> ValEntero(QStringView texto) {
+  const double v = std::floor(ValJet(texto));
+  // 2^63 is the first double beyond qint64; below it every whole double converts exactly.
+  if (v < -9223372036854775808.0 || v >= 9223372036854775808.0)
+    return std::nullopt;
+  return static_cast<qint64>(v);
+}
+
 double ValJet(QStringView texto) {
   QString s;
   s.reserve(texto.size());
@@ -17,7 +25,8 @@ double ValJet(QStringView texto) {
     const int radix = base == u'H' ? 16 : (base == u'O' ? 8 : 0);
     if (radix != 0) {
       qsizetype i = 2;
-      long long valor = 0;
+      // Summed as a double: a long run of digits grows past every integer type.
+      double valor = 0;
       while (i < s.size()) {
         const int d = s.at(i).isDigit()
                           ? s.at(i).digitValue()
@@ -29,7 +38,7 @@ double ValJet(QStringView texto) {
         valor = valor * radix + d;
         ++i;
       }
-      return static_cast<double>(valor);
+      return valor;
     }
   }
   qsizetype i = 0;

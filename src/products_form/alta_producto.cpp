@@ -205,7 +205,7 @@ bool AltaProducto::grabar() {
   const std::optional<qint64> codigo = GrabarProductoNuevo(entorno_, producto);
   if (!codigo)
     return false;
-  estado_.codigoActual = static_cast<qint32>(*codigo);
+  estado_.codigoActual = *codigo;
   return true;
 }
 

@@ -1,6 +1,6 @@
 #include "codigos_producto.h"
 
-#include <cmath>
+#include <limits>
 
 #include "entorno.h"
 #include "error_bd.h"
@@ -11,9 +11,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A whole number read from a column, as the form adds one to it.
-qint64 Entero(const QVariant& valor) {
-  return static_cast<qint64>(std::floor(ValJet(valor.toString())));
+// A whole number read from a column, as the form adds one to it; one beyond 64 bits is refused.
+qint64 Entero(const QVariant& valor, const QString& campo) {
+  const std::optional<qint64> entero = ValEntero(valor.toString());
+  if (!entero || *entero == std::numeric_limits<qint64>::max()) {
+    throw ErrorBD(u"El valor «%1» no es válido para el campo %2"_s.arg(valor.toString(), campo));
+  }
+  return *entero;
 }
 
 bool HayFilas(Entorno& entorno, const QString& sentencia, const QString& contexto) {
@@ -30,12 +34,21 @@ bool HayFilas(Entorno& entorno, const QString& sentencia, const QString& context
 
 }  // namespace
 
+TransaccionCodigos::TransaccionCodigos(Conexion& conexion)
+    : Transaccion(conexion, u"productos"_s) {}
+
+bool ExisteProducto(Conexion& conexion, qint64 codigo) {
+  Recordset rs(conexion, u"select codigo from productos where codigo = '"_s +
+                             QString::number(codigo) + u"'"_s);
+  return rs.recordCount() > 0;
+}
+
 qint64 CodigoProductoNuevo(Conexion& conexion) {
   Recordset rs(conexion, u"select codigo from productos order by val(codigo)"_s);
   qint64 codigo = 1;
   if (rs.recordCount() > 0) {
     rs.moveLast();
-    codigo = Entero(rs.field(u"codigo"_s)) + 1;
+    codigo = Entero(rs.field(u"codigo"_s), u"codigo"_s) + 1;
   }
   rs.close();
   return codigo;
@@ -57,7 +70,7 @@ std::optional<QString> ValorPonerOrden(Entorno& entorno) {
     QString valor = u"0"_s;
     if (rs.recordCount() > 0) {
       rs.moveLast();
-      valor = QString::number(Entero(rs.field(u"orden"_s)) + 1);
+      valor = QString::number(Entero(rs.field(u"orden"_s), u"orden"_s) + 1);
     }
     rs.close();
     return valor;
@@ -80,7 +93,7 @@ std::optional<QString> ValorMensajeNumero(Entorno& entorno, int tipoProducto) {
     QString valor = u"1"_s;
     if (rs.recordCount() > 0) {
       rs.moveFirst();
-      valor = QString::number(Entero(rs.field(u"descnumerica"_s)) + 1);
+      valor = QString::number(Entero(rs.field(u"descnumerica"_s), u"descnumerica"_s) + 1);
     }
     rs.close();
     return valor;
@@ -101,7 +114,7 @@ ComprobacionDescNumerica bcomprobarSiExisteDescNumerica(Entorno& entorno, const 
                                                         qint64 codigo, bool modificando) {
   if (!modificando)
     return {};
-  const qint64 valor = static_cast<qint64>(std::floor(ValJet(numero)));
+  const qint64 valor = ValEntero(numero).value_or(0);
   if (valor < 1)
     return {true, kAvisoDescNumericaVacia};
   const bool existe =

@@ -4,7 +4,8 @@
 #include <QtGlobal>
 #include <optional>
 
-class Conexion;
+#include "conexion.h"
+
 struct Entorno;
 
 inline const QString kContextoSiguienteCodigo = QStringLiteral("Productos  1");
@@ -21,6 +22,17 @@ inline const QString kAvisoDescNumericaExiste =
     QStringLiteral("La descripción numérica ya existe, por favor introduzca otra.");
 inline const QString kAvisoDescNumericaVacia =
     QStringLiteral("Es necesario que ingrese una descripción numérica.");
+
+// The transaction in which a new product takes its code and is written: terminals doing the
+// same wait their turn, so that the largest code read stays the largest until the product is
+// saved under the next one. Allocate with CodigoProductoNuevo inside it.
+class TransaccionCodigos : public Transaccion {
+ public:
+  explicit TransaccionCodigos(Conexion& conexion);
+};
+
+// Whether a product row, live or deleted, has the code. Throws ErrorBD.
+bool ExisteProducto(Conexion& conexion, qint64 codigo);
 
 // The code for a new product: one more than the largest numeric value of every code, deleted
 // products included, so that a deleted product's code is never given again; 1 on an empty

@@ -11,7 +11,7 @@ struct EstadoFormulario {
   // The kind of product on show: 1 simple, 2 elaborated.
   int tipo = 1;
   // The code of the product on show or being created.
-  qint32 codigoActual = 0;
+  qint64 codigoActual = 0;
   // True while an existing product is being changed, false while a new one is created.
   bool modificando = false;
 

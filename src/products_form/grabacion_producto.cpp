@@ -110,39 +110,23 @@ void EscribirProductoNuevo(Conexion& conexion, qint64 codigo, const ProductoForm
   EscribirProveedores(conexion, codigo, p.proveedores);
 }
 
-// Whether a product row with the code exists now: after a refused insert, it tells a code taken
-// by another terminal from any other failure.
-bool CodigoOcupado(Conexion& conexion, qint64 codigo) {
-  try {
-    Recordset rs(conexion,
-                 u"select * from productos where codigo = '"_s + QString::number(codigo) + u"'"_s);
-    return rs.recordCount() > 0;
-  } catch (const ErrorBD&) {
-    return false;
-  }
-}
-
 }  // namespace
 
 std::optional<qint64> GrabarProductoNuevo(Entorno& entorno, const ProductoFormulario& producto,
                                           const AsignadorCodigo& asignar) {
   Conexion& conexion = *entorno.ConexionBD;
-  for (int intento = 0;; ++intento) {
-    qint64 codigo = 0;
-    try {
-      // The code is read before the transaction starts, so that allocating holds no lock that
-      // would keep another terminal from saving.
-      codigo = asignar ? asignar(conexion) : CodigoProductoNuevo(conexion);
-      Transaccion transaccion(conexion);
-      EscribirProductoNuevo(conexion, codigo, producto, entorno.sesion.tipo_programa);
-      transaccion.confirmar();
-      return codigo;
-    } catch (const ErrorBD& e) {
-      if (intento < kReintentosCodigo && codigo > 0 && CodigoOcupado(conexion, codigo))
-        continue;
-      entorno.RegistrarError(kContextoGrabarNuevo, e.descripcion());
-      return std::nullopt;
-    }
+  try {
+    TransaccionCodigos transaccion(conexion);
+    const qint64 codigo = asignar ? asignar(conexion) : CodigoProductoNuevo(conexion);
+    EscribirProductoNuevo(conexion, codigo, producto, entorno.sesion.tipo_programa);
+    // The links written under the code offered at "Nuevo" move with the product.
+    if (producto.codigo > 0 && producto.codigo != codigo)
+      BorrarProveedoresSinProducto(conexion, producto.codigo);
+    transaccion.confirmar();
+    return codigo;
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(kContextoGrabarNuevo, e.descripcion());
+    return std::nullopt;
   }
 }
 

@@ -17,10 +17,6 @@ inline const QString kContextoEliminar = QStringLiteral("Productos  9");
 inline const QString kPreguntaEliminar =
     QStringLiteral("¿Esta seguro de que desea eliminar este producto?");
 
-// How many times a terminal that lost its new code to another terminal allocates again before
-// it reports the failure.
-inline constexpr int kReintentosCodigo = 3;
-
 // What the simple products' screen holds when a product is saved, as the form shows it.
 struct ProductoFormulario {
   qint64 codigo = 0;             // the product being modified (a new one gets its own code)
@@ -55,9 +51,10 @@ struct ProductoFormulario {
 using AsignadorCodigo = std::function<qint64(Conexion&)>;
 
 // Saves a new product: its row, its stock row and its supplier links in one transaction, under
-// a code allocated now. When another terminal took that code in the meantime, the product's
-// key refuses the row, and the code is allocated again, up to kReintentosCodigo times. The
-// result is the code saved; on failure it is logged, nothing is written, and there is none.
+// the code allocated inside it (TransaccionCodigos), so that terminals saving at once wait
+// their turn and never clash. producto.codigo is the code offered when the product was started:
+// links written under it for the unsaved product move to the code saved. The result is the code
+// saved; on failure it is logged, nothing is written, and there is none.
 std::optional<qint64> GrabarProductoNuevo(Entorno& entorno, const ProductoFormulario& producto,
                                           const AsignadorCodigo& asignar = {});
 

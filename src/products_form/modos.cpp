@@ -325,7 +325,7 @@ void Modos::cmd_nuevo() {
     PonerVisible({g.Label6, g.opt_Venta, g.opt_cocina, g.opt_ambos}, false);
     importes_.OcultarImportes();
     eventos_.ocultarImagenColor();
-    estado_.codigoActual = static_cast<qint32>(CodigoProductoNuevo(*entorno_.ConexionBD));
+    estado_.codigoActual = CodigoProductoNuevo(*entorno_.ConexionBD);
     if (PonerOrden)
       PonerOrden();
   } catch (const ErrorBD& e) {

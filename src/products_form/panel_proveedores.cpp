@@ -14,6 +14,7 @@
 #include "proveedores_producto.h"
 #include "val.h"
 #include "visualizacion.h"
+#include "zona_impresoras.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -101,6 +102,15 @@ QStringList PanelProveedores::asignados() const {
 }
 
 bool PanelProveedores::GuardarProveedores() {
+  // A product being created is not saved yet: its links go under the code offered to it, moved
+  // on when another terminal has taken that code meanwhile.
+  if (!estado_.modificando && EstaModificando(c_)) {
+    const std::optional<qint64> codigo =
+        GuardarProveedoresProductoNuevo(entorno_, estado_.codigoActual, asignados());
+    if (codigo)
+      estado_.codigoActual = *codigo;
+    return codigo.has_value();
+  }
   return ::GuardarProveedores(entorno_, estado_.codigoActual, asignados());
 }
 

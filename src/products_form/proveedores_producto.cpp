@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "codigos_producto.h"
 #include "conexion.h"
 #include "dialogos.h"
 #include "entorno.h"
@@ -148,11 +149,31 @@ bool GuardarProveedores(Entorno& entorno, qint64 codigo, const QStringList& asig
   }
 }
 
+std::optional<qint64> GuardarProveedoresProductoNuevo(Entorno& entorno, qint64 codigo,
+                                                      const QStringList& asignados) {
+  Conexion& conexion = *entorno.ConexionBD;
+  try {
+    TransaccionCodigos transaccion(conexion);
+    if (ExisteProducto(conexion, codigo))
+      codigo = CodigoProductoNuevo(conexion);
+    EscribirProveedores(conexion, codigo, asignados);
+    transaccion.confirmar();
+    return codigo;
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(kContextoGuardarProveedores, e.descripcion());
+    return std::nullopt;
+  }
+}
+
+void BorrarProveedoresSinProducto(Conexion& conexion, qint64 codigo) {
+  conexion.ejecutar(u"Delete from productoproveedor where producto = '"_s +
+                    QString::number(codigo) +
+                    u"' and producto not in (Select codigo from productos)"_s);
+}
+
 void BorrarProveedoresSinProducto(Entorno& entorno, qint64 codigo) {
   try {
-    entorno.ConexionBD->ejecutar(u"Delete from productoproveedor where producto = '"_s +
-                                 QString::number(codigo) +
-                                 u"' and producto not in (Select codigo from productos)"_s);
+    BorrarProveedoresSinProducto(*entorno.ConexionBD, codigo);
   } catch (const ErrorBD& e) {
     entorno.RegistrarError(kContextoProveedoresSinProducto, e.descripcion());
   }

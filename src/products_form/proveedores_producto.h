@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
+#include <optional>
 
 class Conexion;
 class ServicioDialogos;
@@ -53,9 +54,19 @@ void EscribirProveedores(Conexion& conexion, qint64 codigo, const QStringList& a
 // false.
 bool GuardarProveedores(Entorno& entorno, qint64 codigo, const QStringList& asignados);
 
+// The same for a product being created, under the code offered to it. When another terminal has
+// saved a product under that code meanwhile, the code moves on to the next free one first (in
+// the transaction that new codes are taken in), so that links of an unsaved product never land
+// on a saved one. The result is the code the links were written under; on failure it is logged,
+// the old links stay, and there is none.
+std::optional<qint64> GuardarProveedoresProductoNuevo(Entorno& entorno, qint64 codigo,
+                                                      const QStringList& asignados);
+
 // Removes the links written for a product that was never saved (a new product abandoned);
 // links of a saved product are untouched. A failure is logged.
 void BorrarProveedoresSinProducto(Entorno& entorno, qint64 codigo);
+// The same inside the caller's transaction; throws ErrorBD.
+void BorrarProveedoresSinProducto(Conexion& conexion, qint64 codigo);
 
 // The supplier button's caption after the panel is accepted: the name of the supplier listed
 // last; with no supplier assigned the caption stays as it is.

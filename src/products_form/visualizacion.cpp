@@ -160,15 +160,19 @@ void Visualizacion::AbrirProductos(int tipo) {
 QString Visualizacion::lineaImpresora(const QString& nombre, const QString& impresora) {
   if (impresora.isEmpty() || impresora == u"0"_s)
     return {};
+  // Printer codes are 16-bit; one beyond names no printer that can be looked up.
+  const qint64 codigo = ValEntero(impresora).value_or(0);
   const QString nombreImpresora =
-      ObtenerNomImpresora(*entorno_.ConexionBD, static_cast<qint16>(ValJet(impresora)));
+      codigo < -32768 || codigo > 32767
+          ? QString()
+          : ObtenerNomImpresora(*entorno_.ConexionBD, static_cast<qint16>(codigo));
   return nombreImpresora.isEmpty() ? LineaImpresoraEliminada(nombre)
                                    : LineaImpresora(nombre, nombreImpresora);
 }
 
 void Visualizacion::MostrarProducto(const Recordset& producto, const Recordset& stock, int tipo) {
   try {
-    estado_.codigoActual = static_cast<qint32>(ValJet(producto.field(u"Codigo"_s).toString()));
+    estado_.codigoActual = ValEntero(producto.field(u"Codigo"_s).toString()).value_or(0);
     estado_.colorElegido = TextoDeValor(producto.field(u"color"_s));
     estado_.fotoElegida.clear();
     estado_.impresoraElegida = TextoDeValor(producto.field(u"impresora"_s));
@@ -211,9 +215,16 @@ void Visualizacion::mostrarGenerico(const Recordset& p, const Recordset& stock) 
   gen_.cbo_Medida->setCurrentIndex(
       unidad.isNull() ? -1 : gen_.cbo_Medida->findText(unidad.toString(), Qt::MatchExactly));
 
-  gen_.txt_stock_actual->setText(TextoDeValor(stock.field(u"stock"_s)));
-  const QVariant minimo = stock.field(u"stockminimo"_s);
-  gen_.txt_stock_minimo->setText(minimo.isNull() ? u"0"_s : TextoDeValor(minimo));
+  // A product may have no stock row (saving adds it): its stock boxes are then empty, never
+  // left with the previous product's stock, which a save would write for this one.
+  if (stock.recordCount() > 0) {
+    gen_.txt_stock_actual->setText(TextoDeValor(stock.field(u"stock"_s)));
+    const QVariant minimo = stock.field(u"stockminimo"_s);
+    gen_.txt_stock_minimo->setText(minimo.isNull() ? u"0"_s : TextoDeValor(minimo));
+  } else {
+    gen_.txt_stock_actual->clear();
+    gen_.txt_stock_minimo->clear();
+  }
   MarcarSegun(p.field(u"hechoen"_s), {{1, gen_.optBarra}, {2, gen_.optCocina}});
   marcos_.lblNomProd->setText(lineaImpresora(nombre, estado_.impresoraElegida));
   MarcarSegun(p.field(u"tipoprod"_s),

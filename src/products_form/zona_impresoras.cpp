@@ -137,9 +137,14 @@ void ZonaImpresoras::AbrirImpresoras() {
           CaptionAlAbrirImpresoras(estado_.impresoraElegida, nombreProducto())) {
     m.lblNomProd->setText(*linea);
   }
-  // The list opens with no row chosen: accepting it untouched means no specific printer.
-  m.lb_impresoras->setCurrentRow(-1);
-  m.lbCodigos->setCurrentRow(-1);
+  // The list opens on the product's printer, so that accepting it untouched keeps it; with none
+  // no row is chosen, and accepting means no specific printer.
+  const QStringList codigos = Lineas(m.lbCodigos);
+  const int fila = estado_.impresoraElegida.isEmpty()
+                       ? -1
+                       : static_cast<int>(codigos.indexOf(estado_.impresoraElegida.trimmed()));
+  m.lb_impresoras->setCurrentRow(fila);
+  m.lbCodigos->setCurrentRow(fila);
   MostrarMarco(m.frImpresoras);
 }
 

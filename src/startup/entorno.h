@@ -24,6 +24,8 @@ struct Entorno {
   ServicioDialogos* dialogos;
 
   void RegistrarError(const QString& contexto, const QString& descripcion) {
-    registro.RegistrarError(contexto, descripcion);
+    const QString fallo = registro.RegistrarError(contexto, descripcion);
+    if (!fallo.isEmpty())
+      dialogos->mensaje(fallo, TituloPrograma(), ServicioDialogos::Icono::Critico);
   }
 };

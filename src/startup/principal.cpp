@@ -164,6 +164,9 @@ QString RutaFotosDeBase(const QString& ruta, bool* otraUnidad) {
 
 void UbicarBaseDeDatos(Entorno& entorno) {
   Sesion& s = entorno.sesion;
+  // Only a database file lies on a drive and has a file name; a server's database has neither.
+  if (entorno.ConexionBD->motor() == Motor::PostgreSQL)
+    return;
   bool otraUnidad = false;
   const QString fotos = RutaFotosDeBase(entorno.ConexionBD->rutaPredeterminada(), &otraUnidad);
   s.BDEnOtraUnidad = otraUnidad;

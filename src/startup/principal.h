@@ -48,7 +48,8 @@ QString RutaDeInstalacion(const Instalacion& instalacion, const QString& ruta);
 // database on drive C. Throws ErrorEjecucion for a database of another name (deliberately
 // unguarded, as the suite has always behaved).
 QString RutaFotosDeBase(const QString& rutaPredeterminada, bool* otraUnidad);
-// Sets BDEnOtraUnidad and RutaFotosBD from the shared connection.
+// Sets BDEnOtraUnidad and RutaFotosBD from the shared connection's database file; a server's
+// database (PostgreSQL) has no file and leaves both as they are.
 void UbicarBaseDeDatos(Entorno& entorno);
 // Reads the installation's row of opciones into the session.
 void LeerOpciones(Entorno& entorno);

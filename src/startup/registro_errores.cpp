@@ -2,7 +2,8 @@
 
 #include <QDir>
 #include <QFile>
-#include <stdexcept>
+#include <QRegularExpression>
+#include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,17 +42,28 @@ QString RegistroErrores::rutaLog() const {
   return QDir(carpeta_).filePath(u"Errores.log"_s);
 }
 
-void RegistroErrores::RegistrarError(const QString& contexto, const QString& descripcion) {
+QString EnUnaLinea(const QString& texto) {
+  static const QRegularExpression saltos(uR"(\s*[\r\n]\s*)"_s);
+  return QString(texto).replace(saltos, u" "_s);
+}
+
+QString RegistroErrores::RegistrarError(const QString& contexto, const QString& descripcion) {
   QFile log(rutaLog());
-  if (!log.open(QIODevice::WriteOnly | QIODevice::Append)) {
-    throw std::runtime_error("No se puede abrir Errores.log: " + log.errorString().toStdString());
-  }
-  const QByteArray linea = AWindows1252(contexto + u", Descripcion: "_s + descripcion) + "\r\n";
-  if (log.write(linea) != linea.size()) {
-    throw std::runtime_error("No se puede escribir en Errores.log: " +
-                             log.errorString().toStdString());
+  const QByteArray linea =
+      AWindows1252(EnUnaLinea(contexto) + u", Descripcion: "_s + EnUnaLinea(descripcion)) + "\r\n";
+  QString fallo;
+  if (!log.open(QIODevice::WriteOnly | QIODevice::Append) || log.write(linea) != linea.size() ||
+      !log.flush()) {
+    fallo = u"No se puede escribir en el registro de errores %1: %2"_s.arg(
+        QDir::toNativeSeparators(rutaLog()), log.errorString());
   }
   log.close();
   if (mostrar_)
     mostrar_(contexto, descripcion);
+  // The program goes on without its log; the manager is told once, not at every error.
+  if (fallo.isEmpty() || falloAvisado_)
+    return {};
+  falloAvisado_ = true;
+  std::fprintf(stderr, "%s\n", qPrintable(fallo));
+  return fallo;
 }

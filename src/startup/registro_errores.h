@@ -17,14 +17,19 @@ class RegistroErrores {
   void setMostrar(Mostrar mostrar) { mostrar_ = std::move(mostrar); }
   QString rutaLog() const;
 
-  // Appends the entry and shows it. A log that cannot be written throws std::runtime_error:
-  // the log itself has no guard.
-  void RegistrarError(const QString& contexto, const QString& descripcion);
+  // Appends the entry, on one line (line breaks in it become one blank), and shows it. A log
+  // that cannot be written stops nothing: the first failure is written to standard error and
+  // returned, for the caller to tell the manager; later ones return the empty text.
+  QString RegistrarError(const QString& contexto, const QString& descripcion);
 
  private:
   QString carpeta_;
   Mostrar mostrar_;
+  bool falloAvisado_ = false;
 };
+
+// The text with every line break, and the blanks around it, folded to one blank.
+QString EnUnaLinea(const QString& texto);
 
 // The text in Windows-1252; characters it cannot hold become '?'.
 QByteArray AWindows1252(const QString& texto);

@@ -151,6 +151,7 @@ void TestFormularioVisualizacion::sinImagenConImpresoraBorradaYSinFamilia() {
                                 {u"tipoprod"_s, u"0"_s},
                                 {u"color"_s, u"null"_s}}),
                       Producto(u"3"_s, u"Café"_s, {{u"foto"_s, u"'falta.png'"_s}}),
+                      Producto(u"4"_s, u"Zumo"_s, {{u"hechoen"_s, u"1"_s}}),
                       Stock(u"1"_s, u"1"_s, u"1"_s), Stock(u"2"_s, u"0"_s, u"null"_s),
                       Stock(u"3"_s, u"0"_s, u"0"_s), kImpresora});
   Foto(f, u"agua.png"_s, Qt::blue);
@@ -192,6 +193,13 @@ void TestFormularioVisualizacion::sinImagenConImpresoraBorradaYSinFamilia() {
                                                  imagen->pixmap().height() / 2),
            QColor(Qt::green));
   QCOMPARE(Texto(f, u"lblNomProd"_s), QString());
+
+  // No stock row: empty stock boxes, and the fields after them from this product's own row.
+  Pulsar(f, u"bt_botones_2"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Zumo"_s);
+  QCOMPARE(Texto(f, u"txt_stock_actual"_s), QString());
+  QCOMPARE(Texto(f, u"txt_stock_minimo"_s), QString());
+  QVERIFY(f.control<QRadioButton>(u"optBarra"_s)->isChecked());
   QVERIFY(f.inst().erroresMostrados().isEmpty());
 }
 

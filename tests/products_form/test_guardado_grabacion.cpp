@@ -59,8 +59,6 @@ class TestGuardadoGrabacion : public QObject {
   void sinTablaDeStockElNuevoNoDejaNada();
   void unFalloAlReescribirElStockDejaLasFilasAntiguas();
   void unImporteNoNumericoNoGrabaNada();
-  void dosTerminalesConElMismoCodigoGuardanConCodigosDistintos();
-  void quienPierdeSiempreElCodigoDesisteTrasTresReintentos();
 };
 
 void TestGuardadoGrabacion::unProductoNuevoSeEscribeColumnaAColumna() {
@@ -305,68 +303,6 @@ void TestGuardadoGrabacion::unImporteNoNumericoNoGrabaNada() {
   QCOMPARE(prueba.log(),
            QByteArray("Productos  7, Descripcion: El valor \xABuno\xBB no es v\xE1lido para el "
                       "campo MargenComercial\r\n"));
-}
-
-void TestGuardadoGrabacion::dosTerminalesConElMismoCodigoGuardanConCodigosDistintos() {
-  InstalacionPrueba prueba;
-  DialogosGuion dialogosOtra;
-  Entorno otra(prueba.entorno().instalacion, dialogosOtra);
-  otra.ConexionBD->abrirSQLite(prueba.rutaPrincipal());
-
-  ProductoFormulario deOtra = Cana();
-  deOtra.nombre = u"De la otra terminal"_s;
-  deOtra.proveedores = {LineaLista(u"Otro"_s, u"P55"_s)};
-  std::optional<qint64> codigoOtra;
-  QList<qint64> asignados;
-  // This terminal reads the next code; before it writes, the other terminal saves under the
-  // same code.
-  auto asignar = [&](Conexion& conexion) {
-    const qint64 codigo = CodigoProductoNuevo(conexion);
-    if (asignados.isEmpty())
-      codigoOtra = GrabarProductoNuevo(otra, deOtra);
-    asignados.append(codigo);
-    return codigo;
-  };
-  const std::optional<qint64> codigo = GrabarProductoNuevo(prueba.entorno(), Cana(), asignar);
-
-  QCOMPARE(codigoOtra, std::optional<qint64>(1));
-  QCOMPARE(asignados, (QList<qint64>{1, 2}));
-  QCOMPARE(codigo, std::optional<qint64>(2));
-  QCOMPARE(prueba.filas(u"select codigo, nombre from productos order by codigo"_s),
-           (QList<QVariantList>{{u"1"_s, u"De la otra terminal"_s}, {u"2"_s, u"Caña"_s}}));
-  QCOMPARE(prueba.filas(u"select Producto from stock order by Producto"_s),
-           (QList<QVariantList>{{1}, {2}}));
-  QCOMPARE(prueba.filas(u"select producto, proveedor from productoproveedor order by rowid"_s),
-           (QList<QVariantList>{{u"1"_s, u"P55"_s}, {u"2"_s, u"P01"_s}, {u"2"_s, u"PRV123"_s}}));
-  QVERIFY(prueba.log().isEmpty());
-}
-
-void TestGuardadoGrabacion::quienPierdeSiempreElCodigoDesisteTrasTresReintentos() {
-  InstalacionPrueba prueba;
-  DialogosGuion dialogosOtra;
-  Entorno otra(prueba.entorno().instalacion, dialogosOtra);
-  otra.ConexionBD->abrirSQLite(prueba.rutaPrincipal());
-  ProductoFormulario deOtra = Cana();
-  deOtra.nombre = u"Rápido"_s;
-  int intentos = 0;
-  auto asignar = [&](Conexion& conexion) {
-    const qint64 codigo = CodigoProductoNuevo(conexion);
-    GrabarProductoNuevo(otra, deOtra);
-    ++intentos;
-    return codigo;
-  };
-  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), Cana(), asignar), std::nullopt);
-  QCOMPARE(intentos, 1 + kReintentosCodigo);
-  QCOMPARE(prueba.filas(u"select count(*) from productos where nombre = 'Caña'"_s)
-               .value(0)
-               .value(0)
-               .toInt(),
-           0);
-  QCOMPARE(prueba.filas(u"select count(*) from productos"_s).value(0).value(0).toInt(), 4);
-  QCOMPARE(prueba.erroresMostrados().size(), 1);
-  QCOMPARE(prueba.erroresMostrados().first().first, u"Productos  7"_s);
-  QVERIFY2(prueba.erroresMostrados().first().second.contains(u"UNIQUE"_s),
-           qPrintable(prueba.erroresMostrados().first().second));
 }
 
 QTEST_MAIN(TestGuardadoGrabacion)

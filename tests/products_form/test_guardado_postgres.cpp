@@ -9,19 +9,20 @@
 #include "instalacion_prueba.h"
 #include "listas_productos.h"
 #include "postgres_prueba.h"
+#include "principal.h"
 #include "producto_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // Installations with many terminals keep the catalogue on PostgreSQL: what a save writes there
-// must be what the other programs read, column by column, and two terminals saving at once must
-// still get distinct codes.
+// must be what the other programs read, column by column (terminals saving at once: the
+// reliability suite).
 class TestGuardadoPostgres : public QObject {
   Q_OBJECT
  private slots:
   void initTestCase();
   void grabaModificaYEliminaComoEnSQLite();
-  void dosTerminalesNoCompartenCodigo();
+  void unaBaseDelServidorNoTieneNombreDeArchivo();
 
  private:
   std::unique_ptr<PostgresPrueba> pg_;
@@ -125,35 +126,13 @@ void TestGuardadoPostgres::grabaModificaYEliminaComoEnSQLite() {
   QVERIFY(inst.erroresMostrados().isEmpty());
 }
 
-void TestGuardadoPostgres::dosTerminalesNoCompartenCodigo() {
+// "bar" is no "velandria.mdb", and a server's database is no file on a drive: nothing to check.
+void TestGuardadoPostgres::unaBaseDelServidorNoTieneNombreDeArchivo() {
   InstalacionPrueba inst;
-  UsarPostgres(inst, origen_);
-  InstalacionPrueba otra;
-  UsarPostgres(otra, origen_);
-  inst.conexion().ejecutar(u"delete from productos"_s);
-  inst.conexion().ejecutar(u"delete from stock"_s);
-
-  ProductoFormulario deOtra = Cana();
-  deOtra.nombre = u"De la otra terminal"_s;
-  QList<qint64> asignados;
-  std::optional<qint64> codigoOtra;
-  // This terminal reads the next code; before it writes, the other one saves under it.
-  auto asignar = [&](Conexion& conexion) {
-    const qint64 codigo = CodigoProductoNuevo(conexion);
-    if (asignados.isEmpty())
-      codigoOtra = GrabarProductoNuevo(otra.entorno(), deOtra);
-    asignados.append(codigo);
-    return codigo;
-  };
-  const std::optional<qint64> codigo = GrabarProductoNuevo(inst.entorno(), Cana(), asignar);
-  QCOMPARE(codigoOtra, std::optional<qint64>(1));
-  QCOMPARE(asignados, (QList<qint64>{1, 2}));
-  QCOMPARE(codigo, std::optional<qint64>(2));
-  QCOMPARE(Filas(inst.conexion(), u"select codigo, nombre from productos order by codigo"_s),
-           (QList<QVariantList>{{u"1"_s, u"De la otra terminal"_s}, {u"2"_s, u"Caña"_s}}));
-  QCOMPARE(Filas(inst.conexion(), u"select producto from stock order by producto"_s),
-           (QList<QVariantList>{{1}, {2}}));
-  QVERIFY(inst.erroresMostrados().isEmpty());
+  UsarPostgres(inst, pg_->crearBaseDatos(u"bar"_s));
+  UbicarBaseDeDatos(inst.entorno());
+  QVERIFY(!inst.entorno().sesion.BDEnOtraUnidad);
+  QVERIFY(inst.entorno().sesion.RutaFotosBD.isEmpty());
 }
 
 QTEST_MAIN(TestGuardadoPostgres)

@@ -218,11 +218,14 @@ void TestZonaImpresoras::unProductoConImpresoraLaConservaAlReabrir() {
   const QString linea = u"Producto = Caña = su elaboracion saldra X la impresora de Cocina"_s;
   Pulsar(f, u"cmdImpresoras"_s);
   QCOMPARE(Linea(f), linea);
-  // No row is chosen: closing keeps the printer, accepting would leave none.
-  QCOMPARE(f.control<QListWidget>(u"lb_impresoras"_s)->currentRow(), -1);
+  // The list opens on the product's printer: closing or accepting it untouched keeps it.
+  QCOMPARE(f.control<QListWidget>(u"lb_impresoras"_s)->currentRow(), 1);
   Pulsar(f, u"cmdCerrarImpresoras"_s);
   QCOMPARE(f.forma().estado().impresoraElegida, u"5"_s);
   QCOMPARE(Linea(f), linea);
+  Pulsar(f, u"cmdImpresoras"_s);
+  Pulsar(f, u"Command3"_s);
+  QCOMPARE(f.forma().estado().impresoraElegida, u"5"_s);
 }
 
 void TestZonaImpresoras::elSelectorDelElaboradoUsaSuNombre() {

@@ -13,7 +13,6 @@ class TestRegistroErrores : public QObject {
  private slots:
   void escribeLaLineaExactaEnAnsiYAnade();
   void muestraCadaEntradaDespuesDeEscribirla();
-  void unLogQueNoSePuedeAbrirEsUnError();
   void elFormularioDeErrorMuestraElMensajeSinBloquear();
 };
 
@@ -43,13 +42,6 @@ void TestRegistroErrores::muestraCadaEntradaDespuesDeEscribirla() {
   });
   registro.RegistrarError(u"Utilidades  2"_s, u"fallo"_s);
   QCOMPARE(vistos, QStringList{u"Utilidades  2|fallo"_s});
-}
-
-void TestRegistroErrores::unLogQueNoSePuedeAbrirEsUnError() {
-  QTemporaryDir dir;
-  QVERIFY(QDir(dir.path()).mkdir(u"Errores.log"_s));  // a folder where the file should be
-  RegistroErrores registro(dir.path());
-  QVERIFY_THROWS_EXCEPTION(std::runtime_error, registro.RegistrarError(u"a  1"_s, u"b"_s));
 }
 
 void TestRegistroErrores::elFormularioDeErrorMuestraElMensajeSinBloquear() {

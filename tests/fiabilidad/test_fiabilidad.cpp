@@ -1,0 +1,364 @@
+// The reliability suite. Short by default (the normal test run); PRODUCTOS_FIABILIDAD=larga runs
+// the long form: 20000 hostile fragments, 10 terminals x 200 new products, 100 kills.
+// The same executable, given "--terminal", is one terminal saving new products.
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QSqlDriver>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <cstdio>
+
+#include "codigos_producto.h"
+#include "dialogos_guion.h"
+#include "entorno.h"
+#include "error_bd.h"
+#include "grabacion_producto.h"
+#include "instalacion_prueba.h"
+#include "motores_prueba.h"
+#include "postgres_nativo.h"
+#include "proveedores_producto.h"
+#include "recordset.h"
+#include "val.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const bool kLarga = qEnvironmentVariable("PRODUCTOS_FIABILIDAD") == u"larga"_s;
+
+ProductoFormulario Producto(const QString& nombre) {
+  ProductoFormulario p;
+  p.nombre = nombre;
+  p.coste = p.iva = p.stockMinimo = p.stockActual = p.descNumerica = u"1"_s;
+  p.unidadMedida = u"Unidades"_s;
+  p.optBarra = p.optVenta = true;
+  p.proveedores = {LineaProveedor(u"Uno"_s, u"P01"_s)};
+  return p;
+}
+
+// One terminal: saves n new products and prints how many were saved and refused.
+int Terminal(const QStringList& a) {
+  OrigenDatos origen;
+  origen.tipo = a[0] == u"sqlite"_s ? OrigenDatos::Tipo::SQLite : OrigenDatos::Tipo::PostgreSQL;
+  origen.archivo = origen.servidor = a[1];
+  origen.puerto = a[2].toInt();
+  origen.baseDatos = a[3];
+  origen.usuario = PostgresPrueba::usuario();
+  Instalacion instalacion;
+  instalacion.carpetaPrograma = a[5];
+  instalacion.origenes.mapear(u"velandria"_s, origen);
+  DialogosGuion dialogos;
+  Entorno entorno(instalacion, dialogos);
+  entorno.ConexionBD->abrir(MotoresPrueba::cadena(), instalacion.origenes);
+  std::printf("abierta\n");
+  std::fflush(stdout);
+  int grabados = 0, rechazados = 0;
+  for (int i = 0; i < a[4].toInt(); ++i) {
+    const QString nombre = u"T%1-%2"_s.arg(QCoreApplication::applicationPid()).arg(i);
+    (GrabarProductoNuevo(entorno, Producto(nombre)) ? grabados : rechazados)++;
+  }
+  std::printf("%d %d\n", grabados, rechazados);
+  return 0;
+}
+
+QProcess* LanzarTerminal(const QStringList& argumentos, QObject* padre) {
+  auto* p = new QProcess(padre);
+  p->start(QCoreApplication::applicationFilePath(), QStringList{u"--terminal"_s} + argumentos);
+  return p;
+}
+
+// What saves must never leave: a product without its stock row or its supplier link, a stock row
+// or link without its product, a code twice, or a gap in the codes (each is the largest plus one).
+QStringList Violaciones(Conexion& c) {
+  const auto codigos = [&](const QString& consulta, int* filas = nullptr) {
+    QSet<qint64> s;
+    const QList<QVariantList> todas = FilasDe(c, consulta);
+    for (const QVariantList& f : todas)
+      s.insert(f.value(0).toString().toLongLong());
+    if (filas)
+      *filas = static_cast<int>(todas.size());
+    return s;
+  };
+  int filas = 0;
+  const QSet<qint64> productos = codigos(u"select codigo from productos"_s, &filas);
+  QStringList v;
+  if (filas != productos.size())
+    v << u"código repetido"_s;
+  if (codigos(u"select producto from stock"_s) != productos)
+    v << u"stock sin producto o producto sin stock"_s;
+  if (codigos(u"select producto from productoproveedor"_s) != productos)
+    v << u"enlace sin producto o producto sin enlace"_s;
+  for (qint64 i = 1; i <= productos.size(); ++i) {
+    if (!productos.contains(i))
+      return v << u"hueco en los códigos"_s;
+  }
+  return v;
+}
+
+QList<QList<QVariantList>> Contenido(Conexion& c) {
+  QList<QList<QVariantList>> tablas;
+  for (const Tabla& t : TablasPrincipales())
+    tablas.append(FilasDe(c, u"select * from "_s + t.nombre));
+  return tablas;
+}
+
+// Values that close the quotes of a statement and try to run one of their own, with every way
+// an engine or driver may read a text differently: dollar quotes with any tag, E'' and U&''
+// strings, backslashes, comments ended by CR or LF, nested comments, placeholders.
+QStringList Fragmentos(int n) {
+  QStringList f{u"'||$a?'$a$; delete from stock; --"_s, u"'||$€$'$€$; delete from stock; --"_s,
+                u"' --\r; delete from stock; --"_s};
+  const QStringList piezas{u"'"_s,    u"'||"_s,       u"' "_s,       u"')"_s,  u"E'"_s,  u"e'\\'"_s,
+                           u"U&'"_s,  u"U&'\\0027"_s, u"$$"_s,       u"$a$"_s, u"$€$"_s, u"$ñ$"_s,
+                           u"$_1$"_s, u"$a?"_s,       u"$1"_s,       u"?"_s,   u":n"_s,  u"@x"_s,
+                           u"/*"_s,   u"*/"_s,        u"/* /* */"_s, u"--"_s,  u"\\"_s,  u"\\'"_s,
+                           u"''"_s,   u"\""_s,        u"["_s,        u"]"_s,   u"`"_s,   u"\n"_s,
+                           u"\r"_s,   u"\r\n"_s,      u" "_s,        u";"_s};
+  const QStringList cargas{u"; delete from stock; --"_s, u";delete from stock"_s,
+                           u"; drop table stock; --"_s, u"; update productos set borrar = -1; --"_s,
+                           u"; insert into stock (producto) values (999) --"_s};
+  QRandomGenerator azar(20261122);
+  while (f.size() < n) {
+    QString s;
+    for (int k = 1 + azar.bounded(4); k > 0; --k)
+      s += piezas.at(azar.bounded(piezas.size()));
+    s += cargas.at(azar.bounded(cargas.size()));
+    for (int k = azar.bounded(3); k > 0; --k)
+      s += piezas.at(azar.bounded(piezas.size()));
+    f.append(s);
+  }
+  return f;
+}
+
+}  // namespace
+
+class TestFiabilidad : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { motores_ = std::make_unique<MotoresPrueba>(); }
+  void valoresHostilesNoEjecutanOtraSentencia_data();
+  void valoresHostilesNoEjecutanOtraSentencia();
+  void enterosFueraDeRangoSeRechazanSinEscribir();
+  void terminalesALaVezGuardanTodoSinChoques_data();
+  void terminalesALaVezGuardanTodoSinChoques();
+  void matarDuranteGrabacionesDejaLaBaseIntegra();
+  void registroNoEscribibleNoDetieneNadaYCadaEntradaEsUnaLinea();
+
+ private:
+  std::unique_ptr<MotoresPrueba> motores_;
+};
+
+void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia_data() {
+  QTest::addColumn<QString>("motor");
+  for (const QString& m : {u"sqlite"_s, u"odbc"_s, u"postgresql"_s, u"odbc-postgresql"_s})
+    QTest::newRow(qPrintable(m)) << m;
+}
+
+// Every fragment goes into the name and barcode checks as typed, and into the search's
+// statement; then, without the text guard, straight to the engine where the engine is the one
+// that refuses a second statement. No table may change.
+void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia() {
+  QFETCH(QString, motor);
+  InstalacionPrueba prueba;
+  Entorno& entorno = prueba.entorno();
+  Conexion& c = prueba.conexion();
+  ABRIR_NUEVA(*motores_, c, motor);
+  c.ejecutar(
+      u"insert into productos (codigo, nombre, codigobarras, borrar) values ('1', 'Caña', "
+      "'84', 0)"_s);
+  c.ejecutar(u"insert into stock (producto, stock) values (1, 5)"_s);
+  const QList<QList<QVariantList>> antes = Contenido(c);
+  const QStringList fragmentos = Fragmentos(kLarga ? 20000 : 600);
+  int rechazadas = 0, motorRechaza = 0;
+  for (const QString& f : fragmentos) {
+    bcomprobarSiExisteNombre(entorno, f, 1);
+    existeCodBarras(entorno, f, 1);
+    const QString busqueda =
+        u"Select * from Productos  where codigo <> null and borrar = 0 and "
+        "Nombre like '"_s +
+        f + u"%' order by nombre"_s;
+    try {
+      c.consultar(busqueda);
+    } catch (const ErrorBD&) {
+      ++rechazadas;
+    }
+    if (motor == u"odbc-postgresql"_s)
+      continue;  // psqlODBC runs every statement of a text: the guard alone stands there
+    const QString texto = AdaptarSentencia(busqueda, c.motor());
+    try {
+      if (EsPostgresNativo(c.bd()))
+        EjecutarEnPostgres(c.bd(), texto);
+      else if (!QSqlQuery(c.bd()).exec(texto))
+        ++motorRechaza;
+    } catch (const ErrorBD&) {
+      ++motorRechaza;
+    }
+  }
+  rechazadas += prueba.log().count("\r\n");
+  QCOMPARE(Contenido(c), antes);
+  qInfo(
+      "%s: %lld sentencias, %lld ejecutadas, %d rechazadas; sin la guarda, el motor rechaza %s; "
+      "tablas cambiadas: 0",
+      qPrintable(motor), 3 * fragmentos.size(), 3 * fragmentos.size() - rechazadas, rechazadas,
+      motor == u"odbc-postgresql"_s
+          ? "(no probado: psqlODBC ejecuta cada sentencia)"
+          : qPrintable(u"%1 de %2"_s.arg(motorRechaza).arg(fragmentos.size())));
+}
+
+// Every integer column refuses a value beyond 32 bits, whatever its type, with the message the
+// manager knows; a save that meets one writes nothing.
+void TestFiabilidad::enterosFueraDeRangoSeRechazanSinEscribir() {
+  InstalacionPrueba prueba;
+  int casos = 0;
+  for (const Tabla& t : TablasPrincipales()) {
+    for (const Columna& col : t.columnas) {
+      if (col.tipo != TipoColumna::Entero)
+        continue;
+      for (const QVariant& v :
+           {QVariant(4294967397LL), QVariant(u"2147483648"_s), QVariant(-2147483649.0)}) {
+        Recordset rs(prueba.conexion(), u"select * from "_s + t.nombre);
+        rs.addNew();
+        try {
+          rs.setField(col.nombre, v);
+          QFAIL(qPrintable(t.nombre + u'.' + col.nombre + u" took "_s + v.toString()));
+        } catch (const ErrorBD& e) {
+          QCOMPARE(e.descripcion(),
+                   u"El valor «%1» no es válido para el campo %2"_s.arg(v.toString(), col.nombre));
+        }
+        ++casos;
+      }
+    }
+  }
+  QVERIFY(casos > 20);
+  ProductoFormulario p = Producto(u"Grande"_s);
+  p.descNumerica = u"4294967397"_s;
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::nullopt);
+  prueba.ejecutar(
+      {u"insert into productos (codigo, nombre, borrar) values ('4294967296', 'X', 0)"_s});
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), Producto(u"Siguiente"_s)), std::nullopt);
+  QCOMPARE(prueba.filas(u"select count(*) from productos"_s), (QList<QVariantList>{{1}}));
+  QCOMPARE(prueba.filas(u"select count(*) from stock"_s), (QList<QVariantList>{{0}}));
+  QCOMPARE(prueba.log(), QByteArray("Productos  7, Descripcion: El valor \xAB"
+                                    "4294967397\xBB no es v\xE1lido para el campo DescNumerica\r\n"
+                                    "Productos  7, Descripcion: El valor \xAB"
+                                    "4294967297\xBB no es v\xE1lido para el campo Producto\r\n"));
+  QCOMPARE(ValEntero(u"&HFFFFFFFFFFFFFFFFFFFF"), std::nullopt);
+}
+
+void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques_data() {
+  QTest::addColumn<QString>("motor");
+  QTest::newRow("sqlite") << u"sqlite"_s;
+  QTest::newRow("postgresql") << u"postgresql"_s;
+}
+
+// Ten terminals, each its own process, create products at the same moment: every save is kept,
+// under codes that follow one another, each product with its stock row and its link. Meanwhile
+// one more terminal, creating a product under the code offered to it, accepts its suppliers.
+void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
+  QFETCH(QString, motor);
+  const int terminales = 10, n = kLarga ? 200 : 10;
+  InstalacionPrueba otra;
+  Conexion& c = otra.conexion();
+  ABRIR_NUEVA(*motores_, c, motor);
+  QStringList destino{motor, c.bd().databaseName(), u"0"_s, u""_s};
+  if (motor == u"postgresql"_s) {
+    destino = {motor, motores_->postgres()->carpetaSocket(),
+               QString::number(motores_->postgres()->puerto()), c.bd().databaseName()};
+  }
+  // The other terminal is offered code 1 at "Nuevo", before the ten save.
+  const qint64 ofrecido = CodigoProductoNuevo(c);
+  QElapsedTimer reloj;
+  reloj.start();
+  QList<QProcess*> procesos;
+  for (int i = 0; i < terminales; ++i)
+    procesos.append(
+        LanzarTerminal(destino + QStringList{QString::number(n), otra.carpeta()}, this));
+  int grabados = 0, rechazados = 0;
+  for (QProcess* p : procesos) {
+    QVERIFY(p->waitForFinished(600000));
+    const QStringList cifras = QString::fromUtf8(p->readAllStandardOutput()).split(u'\n');
+    QVERIFY2(cifras.size() >= 2, p->readAllStandardError().constData());
+    grabados += cifras.at(1).section(u' ', 0, 0).toInt();
+    rechazados += cifras.at(1).section(u' ', 1, 1).toInt();
+  }
+  const qint64 ms = reloj.elapsed();
+  QVERIFY2(rechazados == 0, otra.log().constData());
+  QCOMPARE(grabados, terminales * n);
+  QCOMPARE(Violaciones(c), QStringList());
+  qInfo("%s: %d terminales x %d: %d grabados, %d rechazados, 0 violaciones, %lld ms",
+        qPrintable(motor), terminales, n, grabados, rechazados, ms);
+  // Its suppliers, accepted now, go under the next free code, not onto the saved product 1.
+  QCOMPARE(GuardarProveedoresProductoNuevo(otra.entorno(), ofrecido,
+                                           {LineaProveedor(u"Dos"_s, u"P02"_s)}),
+           std::optional<qint64>(grabados + 1));
+  QCOMPARE(FilasDe(c, u"select proveedor from productoproveedor where producto = '1'"_s),
+           (QList<QVariantList>{{u"P01"_s}}));
+}
+
+// A terminal is killed (kill -9) again and again while it saves; after each kill the file
+// passes SQLite's integrity check and every product is whole.
+void TestFiabilidad::matarDuranteGrabacionesDejaLaBaseIntegra() {
+  Conexion c;
+  ABRIR_NUEVA(*motores_, c, u"sqlite"_s);
+  const QString archivo = c.bd().databaseName();
+  c.cerrar();
+  QTemporaryDir dir;
+  const int muertes = kLarga ? 100 : 5;
+  int violaciones = 0;
+  for (int i = 0; i < muertes; ++i) {
+    QProcess* p =
+        LanzarTerminal({u"sqlite"_s, archivo, u"0"_s, u""_s, u"1000000"_s, dir.path()}, this);
+    QVERIFY(p->waitForReadyRead(30000));
+    QThread::msleep(5 + QRandomGenerator::global()->bounded(60));
+    QCOMPARE(p->state(), QProcess::Running);
+    p->kill();
+    p->waitForFinished();
+    c.abrirSQLite(archivo);
+    const QStringList v = Violaciones(c);
+    violaciones += static_cast<int>(v.size());
+    QCOMPARE(FilasDe(c, u"pragma integrity_check"_s), (QList<QVariantList>{{u"ok"_s}}));
+    QCOMPARE(v, QStringList());
+    c.cerrar();
+    delete p;
+  }
+  c.abrirSQLite(archivo);
+  qInfo("sqlite: %d kill -9 durante grabaciones, %d productos grabados, %d violaciones", muertes,
+        FilasDe(c, u"select count(*) from productos"_s).value(0).value(0).toInt(), violaciones);
+}
+
+// A log that cannot be written (here a folder stands where the file goes) stops nothing: each
+// error is still shown, and the manager is told once. A written entry is one line.
+void TestFiabilidad::registroNoEscribibleNoDetieneNadaYCadaEntradaEsUnaLinea() {
+  InstalacionPrueba sinLog;
+  QVERIFY(QDir(sinLog.carpeta()).mkdir(u"Errores.log"_s));
+  sinLog.entorno().RegistrarError(u"opciones  1"_s, u"uno"_s);
+  sinLog.entorno().RegistrarError(u"opciones  1"_s, u"dos"_s);
+  QCOMPARE(sinLog.erroresMostrados().size(), 2);
+  QCOMPARE(sinLog.dialogos().mensajes(),
+           QStringList{u"No se puede escribir en el registro de errores %1: %2"_s.arg(
+               QDir(sinLog.carpeta()).filePath(u"Errores.log"_s), u"Is a directory"_s)});
+  QCOMPARE(sinLog.dialogos().llamadas().first().icono, ServicioDialogos::Icono::Critico);
+
+  InstalacionPrueba prueba;
+  prueba.entorno().RegistrarError(u"Base de datos  16"_s,
+                                  u"ERROR:  falta\nLINE 1: select\r\n       ^\r\n"_s);
+  prueba.entorno().RegistrarError(u"Productos  4"_s, u"a\rb"_s);
+  QCOMPARE(prueba.log(), QByteArray("Base de datos  16, Descripcion: ERROR:  falta LINE 1: select "
+                                    "^ \r\nProductos  4, Descripcion: a b\r\n"));
+}
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  if (argc > 1 && qstrcmp(argv[1], "--terminal") == 0)
+    return Terminal(app.arguments().mid(2));
+  TestFiabilidad t;
+  return QTest::qExec(&t, argc, argv);
+}
+
+#include "test_fiabilidad.moc"
