@@ -331,7 +331,7 @@ void Elaborados::cmd_NuevoProdEla() {
     ocultarNuevo();
     Habilitar(e.fr_DatosProdElab, true);
     Habilitar(e.txt_NombreElaborado, true);
-    estado_.codigoActual = static_cast<qint32>(CodigoProductoNuevo(*entorno_.ConexionBD));
+    estado_.codigoActual = CodigoProductoNuevo(*entorno_.ConexionBD);
     alta_.PonerOrden(2);
   } catch (const ErrorBD& error) {
     entorno_.RegistrarError(u"cmd_NuevoProdEla  1"_s, error.descripcion());

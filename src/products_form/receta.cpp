@@ -225,8 +225,9 @@ std::optional<qint64> guardarproductoelaboradonuevo(Entorno& entorno,
                                                     const ElaboradoFormulario& producto) {
   Conexion& conexion = *entorno.ConexionBD;
   try {
+    // Terminals creating products at once take their codes in turn, inside the save.
+    TransaccionCodigos transaccion(conexion);
     const qint64 codigo = CodigoProductoNuevo(conexion);
-    Transaccion transaccion(conexion);
     Recordset productos(conexion, u"select * from productos"_s);
     productos.addNew();
     EscribirNuevo(productos, codigo, producto);
