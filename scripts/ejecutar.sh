@@ -40,8 +40,13 @@ ls -1 "$capturas"/*
 # The README's pictures come from the same run: terminal T1 at the design's size, also with
 # the demo's "Noche" scheme (number 4).
 if [ -d docs ] && [ -f README.md ]; then
-  cp "$capturas/1024x768/01-inicio.png" docs/inicio.png
-  cp "$capturas/1024x768/03-productos-siguiente.png" docs/productos.png
+  declare -A copias=(
+    [01-inicio]=inicio [03-productos-siguiente]=productos [06-elaborados]=elaborados
+    [07-elaborados-modificar]=elaborados-modificar [08-elaborados-cantidad]=elaborados-cantidad
+    [09-buscar]=buscar [10-subproductos]=subproductos)
+  for captura in "${!copias[@]}"; do
+    cp "$capturas/1024x768/$captura.png" "docs/${copias[$captura]}.png"
+  done
   noche=$(mktemp -d)
   "$carpeta/tools/demo/productos-demo" --esquema 4 "$noche/demo" > /dev/null
   capturar "$noche/demo" 1024x768 "$noche/capturas"
