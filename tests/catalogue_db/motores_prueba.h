@@ -6,6 +6,7 @@
 
 #include "conexion.h"
 #include "esquema.h"
+#include "instalacion_prueba.h"
 #include "postgres_prueba.h"
 
 // The three ways the program reaches its database, for tests that must behave alike on all:
@@ -45,9 +46,6 @@ class MotoresPrueba {
   std::unique_ptr<PostgresPrueba> postgres_;
   int bases_ = 0;
 };
-
-// The rows of a query, each as its values in column order (read straight from the driver).
-QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta);
 
 // Opens a fresh database on the current row's driver or fails the test function.
 #define ABRIR_NUEVA(motores, conexion, motor, ...)                               \
