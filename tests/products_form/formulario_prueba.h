@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QList>
 #include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QtTest>
 #include <memory>
 
 #include "frm_productos.h"
@@ -40,6 +42,14 @@ class FormularioPrueba {
   TablasPanel tablas_;
   std::unique_ptr<FrmProductos1024> forma_;
 };
+
+// Clicks a button of the form, which must be there, shown and enabled.
+inline void Pulsar(FormularioPrueba& f, const QString& nombre) {
+  auto* b = f.control<QAbstractButton>(nombre);
+  QVERIFY2(b, qPrintable(nombre));
+  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
+  QTest::mouseClick(b, Qt::LeftButton);
+}
 
 // The installation's rows that every form test starts with (options, terminal, colours).
 QStringList FilasDeLaInstalacion();

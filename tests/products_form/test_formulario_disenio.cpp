@@ -119,12 +119,6 @@ void Revisar(FormularioPrueba& f, const QString& estado) {
   }
 }
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 }  // namespace
 
 class TestFormularioDisenio : public QObject {

@@ -19,12 +19,6 @@ namespace {
 const QColor kFoco = ColorDesdeValor(kColorFocoPrueba);
 const QColor kCampo = ColorDesdeValor(kColorCampoPrueba);
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 // A form showing one simple product in change mode, or one elaborated product.
 FormularioPrueba* Modificando(int tipo = 1) {
   auto* f = new FormularioPrueba(

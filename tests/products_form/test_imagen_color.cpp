@@ -26,12 +26,6 @@ QColor ColorMostrado(const QLabel* caja) {
   return imagen.isNull() ? QColor() : imagen.pixelColor(imagen.width() / 2, imagen.height() / 2);
 }
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 void Tocar(FormularioPrueba& f, const QString& nombre) {
   auto* w = f.control<QWidget>(nombre);
   QVERIFY2(w && w->isVisible(), qPrintable(nombre));

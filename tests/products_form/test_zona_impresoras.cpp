@@ -24,13 +24,6 @@ QString Impresora(int codigo, const QString& nombre) {
 const QStringList kTresImpresoras = {Impresora(3, u"Barra"_s), Impresora(5, u"Cocina"_s),
                                      Impresora(8, u"Terraza"_s)};
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QAbstractButton>(nombre);
-  QVERIFY2(b, qPrintable(nombre));
-  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 void TocarFila(FormularioPrueba& f, const QString& lista, int fila) {
   auto* l = f.control<QListWidget>(lista);
   QVERIFY2(l && l->isVisible(), qPrintable(lista));
