@@ -18,9 +18,9 @@ inline QString Hoy() {
   return QDate::currentDate().toString(Qt::ISODate);
 }
 
-// Checks a row written against the values expected, column by column: a text as text, a real as
-// a real, an integer as an integer (SQLite hands numbers back in types of its own), anything else
-// as it is.
+// Checks a row written against the values expected, column by column: a text must be a text, a
+// real and an integer are compared as numbers (each engine hands numbers back in types of its
+// own), anything else as it is.
 template <typename... Valores>
 void CompararFila(const QVariantList& fila, const Valores&... valores) {
   const QVariantList esperado{QVariant(valores)...};
@@ -31,7 +31,7 @@ void CompararFila(const QVariantList& fila, const Valores&... valores) {
     if (e.typeId() == QMetaType::Int || e.typeId() == QMetaType::LongLong)
       igual = v.toLongLong() == e.toLongLong();
     else if (e.typeId() == QMetaType::QString)
-      igual = v.toString() == e.toString();
+      igual = v.typeId() == QMetaType::QString && v.toString() == e.toString();
     else if (e.typeId() == QMetaType::Double)
       igual = v.toDouble() == e.toDouble() || qFuzzyCompare(v.toDouble(), e.toDouble());
     QVERIFY2(
