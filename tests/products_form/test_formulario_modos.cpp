@@ -27,11 +27,6 @@ bool Activo(FormularioPrueba& f, const QString& nombre) {
   return w && w->isEnabled();
 }
 
-bool Visible(FormularioPrueba& f, const QString& nombre) {
-  const QWidget* w = f.control<QWidget>(nombre);
-  return w && w->isVisible();
-}
-
 }  // namespace
 
 class TestFormularioModos : public QObject {
