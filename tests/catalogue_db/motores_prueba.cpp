@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSqlQuery>
-#include <QSqlRecord>
 #include <QTest>
 
 #include "error_bd.h"
@@ -133,16 +132,4 @@ QString MotoresPrueba::abrirNueva(Conexion& conexion, const QString& motor,
     return motor + u": "_s + e.descripcion();
   }
   return {};
-}
-
-QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta) {
-  QList<QVariantList> filas;
-  QSqlQuery q = conexion.consultar(consulta);
-  while (q.next()) {
-    QVariantList fila;
-    for (int i = 0; i < q.record().count(); ++i)
-      fila.append(q.value(i));
-    filas.append(fila);
-  }
-  return filas;
 }

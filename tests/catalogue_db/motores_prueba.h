@@ -6,6 +6,7 @@
 
 #include "conexion.h"
 #include "esquema.h"
+#include "instalacion_prueba.h"
 #include "postgres_prueba.h"
 
 // The three ways the program reaches its database, for tests that must behave alike on all:
@@ -46,12 +47,16 @@ class MotoresPrueba {
   int bases_ = 0;
 };
 
-// The rows of a query, each as its values in column order (read straight from the driver).
-QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta);
-
 // Opens a fresh database on the current row's driver or fails the test function.
 #define ABRIR_NUEVA(motores, conexion, motor, ...)                               \
   do {                                                                           \
     const QString error_ = (motores).abrirNueva(conexion, motor, ##__VA_ARGS__); \
     QVERIFY2(error_.isEmpty(), qPrintable(error_));                              \
   } while (false)
+
+// For tests whose global data rows are the drivers (MotoresPrueba::agregarFilas in
+// initTestCase_data): declares the connection `c`, open on a fresh database of the row's driver.
+#define ABRIR_NUEVA_DEL_MOTOR(motores, ...) \
+  QFETCH_GLOBAL(QString, motor);            \
+  Conexion c;                               \
+  ABRIR_NUEVA(motores, c, motor, ##__VA_ARGS__)

@@ -85,21 +85,16 @@ class TestMotores : public QObject {
  private slots:
   void initTestCase() { motores_ = std::make_unique<MotoresPrueba>(); }
   void cleanupTestCase() { motores_.reset(); }
+  // Every test runs on every driver.
+  void initTestCase_data() { MotoresPrueba::agregarFilas(); }
 
-  void catalogoDeSentencias_data() { MotoresPrueba::agregarFilas(); }
   void catalogoDeSentencias();
-  void semanticaDelMotorDeLaSuite_data() { MotoresPrueba::agregarFilas(); }
   void semanticaDelMotorDeLaSuite();
-  void valComoJet_data() { MotoresPrueba::agregarFilas(); }
   void valComoJet();
-  void segundaSentenciaRechazada_data() { MotoresPrueba::agregarFilas(); }
   void segundaSentenciaRechazada();
-  void transacciones_data() { MotoresPrueba::agregarFilas(); }
   void transacciones();
-  void esquemaEnUnaTransaccion_data() { MotoresPrueba::agregarFilas(); }
   void esquemaEnUnaTransaccion();
   void aperturaFallida();
-  void signosEnLosValores_data() { MotoresPrueba::agregarFilas(); }
   void signosEnLosValores();
 
  private:
@@ -109,9 +104,7 @@ class TestMotores : public QObject {
 // Every statement text of the program, with its sample values, runs on the driver: selects
 // through a recordset whose every field is read, the others through the connection.
 void TestMotores::catalogoDeSentencias() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor, TodasLasTablas());
+  ABRIR_NUEVA_DEL_MOTOR(*motores_, TodasLasTablas());
   Sembrar(c);
   const QList<VectorSentencia> vectores = CargarVectores(QStringLiteral(VECTORES_COPIA));
   QVERIFY(vectores.size() >= 70);
@@ -157,9 +150,7 @@ void TestMotores::catalogoDeSentencias() {
 }
 
 void TestMotores::semanticaDelMotorDeLaSuite() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor, TodasLasTablas());
+  ABRIR_NUEVA_DEL_MOTOR(*motores_, TodasLasTablas());
   Sembrar(c);
   c.ejecutar(
       u"insert into productos (codigo, nombre, borrar, mostrarencaja, descnumerica) "
@@ -221,9 +212,7 @@ void TestMotores::semanticaDelMotorDeLaSuite() {
 // val() reads numbers as the suite's desktop database does (SQLite: a function of the connection;
 // through ODBC: a cast; PostgreSQL: a function of the schema).
 void TestMotores::valComoJet() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   const QList<QPair<QString, double>> casos = {
       {u" 12abc"_s, 12}, {u""_s, 0}, {u"abc"_s, 0}, {u"-3.5e2"_s, -350}, {u"7"_s, 7}};
   int n = 0;
@@ -241,9 +230,7 @@ void TestMotores::valComoJet() {
 }
 
 void TestMotores::segundaSentenciaRechazada() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   c.ejecutar(u"insert into stock (producto, stock) values (1, 5)"_s);
   c.ejecutar(u"insert into productos (codigo, nombre) values ('1', 'Agua')"_s);
   const QString mensaje = u"Sentencia rechazada: contiene más de una instrucción SQL"_s;
@@ -273,9 +260,7 @@ void TestMotores::segundaSentenciaRechazada() {
 }
 
 void TestMotores::transacciones() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   {
     Transaccion t(c);
     c.ejecutar(u"insert into stock (producto, stock) values (1, 5)"_s);
@@ -296,9 +281,7 @@ void TestMotores::transacciones() {
 
 // A schema that cannot be created leaves nothing half made.
 void TestMotores::esquemaEnUnaTransaccion() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor, TablasInformes());
+  ABRIR_NUEVA_DEL_MOTOR(*motores_, TablasInformes());
   const QList<Tabla> tablas = {TablasPrincipales().at(0), TablasInformes().at(0)};
   QVERIFY_THROWS_EXCEPTION(ErrorBD, CrearEsquema(c, tablas));  // listadostemporal exists
   QVERIFY_THROWS_EXCEPTION(ErrorBD, c.consultar(u"select codigo from productos"_s));
@@ -308,9 +291,7 @@ void TestMotores::esquemaEnUnaTransaccion() {
 // Spliced values are only text, whatever signs they hold: placeholders of the drivers, comment
 // marks, a ';', letters outside ASCII.
 void TestMotores::signosEnLosValores() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   const QStringList nombres = {u"¿Qué? :nombre"_s, u"$1 @p ?"_s,    u"a -- b /* c */"_s,
                                u"x; y"_s,          u"Ñandú Caña"_s, u"C:\\fotos\\"_s};
   int n = 0;

@@ -14,22 +14,16 @@ class TestRecordset : public QObject {
  private slots:
   void initTestCase() { motores_ = std::make_unique<MotoresPrueba>(); }
   void cleanupTestCase() { motores_.reset(); }
+  // Every test runs on every driver.
+  void initTestCase_data() { MotoresPrueba::agregarFilas(); }
 
-  void movimientos_data() { MotoresPrueba::agregarFilas(); }
   void movimientos();
-  void vacio_data() { MotoresPrueba::agregarFilas(); }
   void vacio();
-  void altaCambioYBorrado_data() { MotoresPrueba::agregarFilas(); }
   void altaCambioYBorrado();
-  void tablasSinClave_data() { MotoresPrueba::agregarFilas(); }
   void tablasSinClave();
-  void recorrerTrasAgregarSinLeer_data() { MotoresPrueba::agregarFilas(); }
   void recorrerTrasAgregarSinLeer();
-  void requery_data() { MotoresPrueba::agregarFilas(); }
   void requery();
-  void borrarEnBucle_data() { MotoresPrueba::agregarFilas(); }
   void borrarEnBucle();
-  void conversionAlTipoDeLaColumna_data() { MotoresPrueba::agregarFilas(); }
   void conversionAlTipoDeLaColumna();
 
  private:
@@ -37,9 +31,7 @@ class TestRecordset : public QObject {
 };
 
 void TestRecordset::movimientos() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   c.ejecutar(u"insert into productos (codigo, nombre, borrar) values ('1', 'Agua', 0)"_s);
   c.ejecutar(u"insert into productos (codigo, nombre, borrar) values ('2', 'Caña', 0)"_s);
   c.ejecutar(u"insert into productos (codigo, nombre, borrar) values ('3', 'Vino', 0)"_s);
@@ -95,9 +87,7 @@ void TestRecordset::movimientos() {
 }
 
 void TestRecordset::vacio() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   Recordset rs(c, u"select * from stock"_s);
   QCOMPARE(rs.recordCount(), 0);
   QVERIFY(rs.bof());
@@ -126,9 +116,7 @@ void TestRecordset::vacio() {
 }
 
 void TestRecordset::altaCambioYBorrado() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   const QString columnas =
       u"select codigo, nombre, coste, precio, fechaalta, mostrarencaja, borrar, productoespecial, "
       "hechoen, descnumerica, descripcion from productos order by codigo"_s;
@@ -218,9 +206,7 @@ void TestRecordset::altaCambioYBorrado() {
 // Rows of tables with no key are found again by all their values (NULL included); a statement
 // that leaves out the table's key still writes only its own row.
 void TestRecordset::tablasSinClave() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   c.ejecutar(u"insert into productoproveedor (producto, proveedor, coste) values ('1', 'P1', 0)"_s);
   c.ejecutar(
       u"insert into productoproveedor (producto, proveedor, coste) values ('1', 'P2', 0.1)"_s);
@@ -274,9 +260,7 @@ void TestRecordset::tablasSinClave() {
 // Rows added before any row was read: the recordset shows the rows that were there, then the
 // added ones, as if it had read them all first; a row equal to an added one is not lost.
 void TestRecordset::recorrerTrasAgregarSinLeer() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   c.ejecutar(u"insert into productoproveedor (producto, proveedor, coste) values ('1', 'P1', 0)"_s);
   c.ejecutar(u"insert into stock (producto, stock) values (1, 5)"_s);
   Recordset enlaces(c, u"Select * from productoproveedor"_s);
@@ -305,9 +289,7 @@ void TestRecordset::recorrerTrasAgregarSinLeer() {
 }
 
 void TestRecordset::requery() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   c.ejecutar(u"insert into proveedores (codigo, nombre, borrar) values ('P1', 'Uno', 0)"_s);
   c.ejecutar(u"insert into proveedores (codigo, nombre, borrar) values ('P2', 'Dos', 0)"_s);
   Recordset rs(c, u"select * from proveedores order by codigo"_s);
@@ -324,9 +306,7 @@ void TestRecordset::requery() {
 
 // The program empties a recipe by deleting the rows one by one while walking them.
 void TestRecordset::borrarEnBucle() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   for (const QString& valores : {u"'5', '1', 1"_s, u"'5', '2', 0.5"_s, u"'5', '2', 0.5"_s,
                                  u"'5', '3', 4"_s, u"'6', '1', 2"_s}) {
     c.ejecutar(
@@ -355,9 +335,7 @@ void TestRecordset::borrarEnBucle() {
 // A value is written with the column's type: PostgreSQL refuses text for a number, and SQLite
 // would keep the text as it stands. A value that is not of the type is refused and loses nothing.
 void TestRecordset::conversionAlTipoDeLaColumna() {
-  QFETCH(QString, motor);
-  Conexion c;
-  ABRIR_NUEVA(*motores_, c, motor);
+  ABRIR_NUEVA_DEL_MOTOR(*motores_);
   c.ejecutar(
       u"insert into productos (codigo, nombre, coste, orden, borrar) "
       "values ('1', 'Agua', 1, 4, 0)"_s);

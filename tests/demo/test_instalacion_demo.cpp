@@ -2,7 +2,6 @@
 #include <QImageReader>
 #include <QProcess>
 #include <QSqlQuery>
-#include <QSqlRecord>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <cmath>
@@ -14,6 +13,7 @@
 #include "esquema.h"
 #include "instalacion.h"
 #include "instalacion_demo.h"
+#include "instalacion_prueba.h"
 #include "principal.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,27 +22,15 @@ namespace {
 
 const QString kCadenaVelandria = u"dsn=velandria;pwd=KorvanitesX%QQRT;"_s;
 
-QList<QVariantList> Filas(Conexion& c, const QString& sql) {
-  QList<QVariantList> r;
-  QSqlQuery q = c.consultar(sql);
-  while (q.next()) {
-    QVariantList fila;
-    for (int i = 0; i < q.record().count(); ++i)
-      fila.append(q.value(i));
-    r.append(fila);
-  }
-  return r;
-}
-
 QVariantList Valores(Conexion& c, const QString& sql) {
   QVariantList r;
-  for (const QVariantList& f : Filas(c, sql))
+  for (const QVariantList& f : FilasDe(c, sql))
     r.append(f.first());
   return r;
 }
 
 int Cuenta(Conexion& c, const QString& sql) {
-  return Filas(c, sql).first().first().toInt();
+  return FilasDe(c, sql).first().first().toInt();
 }
 
 QByteArray Huella(const QString& ruta) {
@@ -142,16 +130,16 @@ class TestInstalacionDemo : public QObject {
     QVERIFY(Cuenta(velandria, u"select count(*) from productos"_s) > 0);
     Conexion informes;
     informes.abrir(u"dsn=informes"_s, inst.origenes);
-    QCOMPARE(Filas(informes, u"select tipoPrograma, list1, list2 from listadostemporal"_s),
+    QCOMPARE(FilasDe(informes, u"select tipoPrograma, list1, list2 from listadostemporal"_s),
              (QList<QVariantList>{{u"RESTAURANTE"_s, u"T1"_s, u"INST1"_s}}));
   }
 
   void opcionesYTerminales() {
-    QCOMPARE(Filas(bd_,
-                   u"select identificador, empleado, id_color, ColorPredefinido, Tipo_Letra "
-                   "from opciones_terminal order by identificador"_s),
+    QCOMPARE(FilasDe(bd_,
+                     u"select identificador, empleado, id_color, ColorPredefinido, Tipo_Letra "
+                     "from opciones_terminal order by identificador"_s),
              (QList<QVariantList>{{u"INST1T1"_s, 1, 1, -1, 1}, {u"INST1T2"_s, 4, 2, -1, 2}}));
-    QCOMPARE(Filas(bd_, u"select indice, daton from relaciones_fijas"_s),
+    QCOMPARE(FilasDe(bd_, u"select indice, daton from relaciones_fijas"_s),
              (QList<QVariantList>{{u"opcion_color_panel_familias"_s, -1}}));
     // Every terminal's scheme and employee exist.
     QCOMPARE(Cuenta(bd_,
@@ -203,9 +191,9 @@ class TestInstalacionDemo : public QObject {
 
   void importesYClasificacion() {
     const QList<QVariantList> filas =
-        Filas(bd_,
-              u"select nombre, coste, MargenComercial, Precio, IVA, tipoprod, hechoen, "
-              "unidadMedida, seccion from productos where borrar = 0"_s);
+        FilasDe(bd_,
+                u"select nombre, coste, MargenComercial, Precio, IVA, tipoprod, hechoen, "
+                "unidadMedida, seccion from productos where borrar = 0"_s);
     const QStringList unidades = {u"Unidades"_s, u"Kilogramos"_s, u"Litros"_s};
     const QVariantList familias = Valores(bd_, u"select codigo from seccion where menu = 0"_s);
     for (const QVariantList& f : filas) {
@@ -223,10 +211,10 @@ class TestInstalacionDemo : public QObject {
         QVERIFY2(margen > 0, qPrintable(nombre));
       }
     }
-    QCOMPARE(Filas(bd_,
-                   u"select coste, MargenComercial, Precio, IVA, hechoen, tipoprod, Orden, "
-                   "DescNumerica, seccion, proveedor, MostrarEnCaja from productos where "
-                   "nombre = 'Café solo'"_s),
+    QCOMPARE(FilasDe(bd_,
+                     u"select coste, MargenComercial, Precio, IVA, hechoen, tipoprod, Orden, "
+                     "DescNumerica, seccion, proveedor, MostrarEnCaja from productos where "
+                     "nombre = 'Café solo'"_s),
              (QList<QVariantList>{{0.15, 0.94, 1.2, 10.0, 1, 1, 1, 101, u"1"_s, u"1"_s, 0}}));
   }
 
@@ -267,10 +255,10 @@ class TestInstalacionDemo : public QObject {
                     "(select productopadre from productoelaborado_producto)"_s),
              0);
     const QList<QVariantList> lineas =
-        Filas(bd_,
-              u"select e.productohijo, e.cantidad, p.nombre, p.borrar from "
-              "productoElaborado_producto e left join productos p on p.codigo = "
-              "e.productohijo"_s);
+        FilasDe(bd_,
+                u"select e.productohijo, e.cantidad, p.nombre, p.borrar from "
+                "productoElaborado_producto e left join productos p on p.codigo = "
+                "e.productohijo"_s);
     for (const QVariantList& l : lineas) {
       QVERIFY(!l.at(2).isNull() && l.at(3).toInt() == 0);
       QVERIFY(l.at(1).toDouble() > 0);
@@ -308,7 +296,7 @@ class TestInstalacionDemo : public QObject {
   }
 
   void esquemasDeColorLegibles() {
-    const QList<QVariantList> esquemas = Filas(bd_, u"select * from colores order by id_color"_s);
+    const QList<QVariantList> esquemas = FilasDe(bd_, u"select * from colores order by id_color"_s);
     QVERIFY(esquemas.size() >= 4);
     for (const QVariantList& e : esquemas) {
       QCOMPARE(e.size(), 16);
@@ -333,7 +321,7 @@ class TestInstalacionDemo : public QObject {
 
   void traducciones() {
     const QList<QVariantList> filas =
-        Filas(bd_, u"select caption, traduccion, ingles from traducciones"_s);
+        FilasDe(bd_, u"select caption, traduccion, ingles from traducciones"_s);
     QSet<QString> captions;
     for (const QVariantList& f : filas) {
       QVERIFY(!f.at(1).toString().isEmpty());
@@ -364,10 +352,10 @@ class TestInstalacionDemo : public QObject {
          {u"cmd_eliminar"_s, u"cmd_nuevo"_s, u"cmd_modificar"_s, u"Boton_SM1"_s}) {
       QVERIFY2(botones.contains(b), qPrintable(b));
     }
-    QVERIFY(Filas(bd_, consulta.arg(1)).isEmpty());
+    QVERIFY(FilasDe(bd_, consulta.arg(1)).isEmpty());
     // The trainee: no deleting on either screen, no prices; the prices label goes too.
     const QList<QVariantList> restringidos =
-        Filas(bd_, consulta.arg(4) + u" order by atributos.codigo"_s);
+        FilasDe(bd_, consulta.arg(4) + u" order by atributos.codigo"_s);
     QStringList nombres;
     for (const QVariantList& f : restringidos) {
       nombres << f.at(0).toString();

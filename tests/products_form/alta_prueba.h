@@ -13,16 +13,12 @@
 
 #include "formulario_prueba.h"
 #include "panel_obj_nuevo.h"
+#include "producto_prueba.h"
 
 namespace alta {
 
 using namespace Qt::Literals::StringLiterals;
 
-// Every column of a product row, in the order of the table.
-inline const QString kColumnasProducto =
-    u"select codigo, nombre, descripcion, codigobarras, seccion, coste, MargenComercial, Precio, "
-    "IVA, FechaAlta, Foto, color, proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
-    "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar from productos "_s;
 inline const QString kColumnasStock =
     u"select Producto, Stock, StockMinimo, ConsumicionesDisponibles from stock "_s;
 inline const QString kEnlaces =
@@ -37,13 +33,6 @@ inline QString Familia(const QString& codigo, const QString& nombre, int orden) 
   return u"insert into seccion (codigo, nombre, borrar, menu, orden, mostrarencaja) values "
          "('%1', '%2', 0, 0, %3, 0)"_s.arg(codigo, nombre)
              .arg(orden);
-}
-
-inline void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QAbstractButton>(nombre);
-  QVERIFY2(b, qPrintable(nombre));
-  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
 }
 
 // Touches a field, rubs out what it holds with Backspace and types the text: what a manager does

@@ -105,3 +105,7 @@ void UsarPantalla(int ancho, int alto) {
     qputenv("QT_QPA_PLATFORM", (u"offscreen:configfile="_s + ruta).toLocal8Bit());
   }
 }
+
+QString Impresora(int codigo, const QString& nombre) {
+  return u"insert into impresoras (codigo, nombre) values (%1, '%2')"_s.arg(codigo).arg(nombre);
+}

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QAbstractButton>
+#include <QLineEdit>
 #include <QList>
 #include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QtTest>
 #include <memory>
 
 #include "frm_productos.h"
@@ -41,6 +44,28 @@ class FormularioPrueba {
   std::unique_ptr<FrmProductos1024> forma_;
 };
 
+// Clicks a button of the form, which must be there, shown and enabled.
+inline void Pulsar(FormularioPrueba& f, const QString& nombre) {
+  auto* b = f.control<QAbstractButton>(nombre);
+  QVERIFY2(b, qPrintable(nombre));
+  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
+  QTest::mouseClick(b, Qt::LeftButton);
+}
+
+// Whether a control of the form is there and on show.
+inline bool Visible(FormularioPrueba& f, const QString& nombre) {
+  const QWidget* w = f.control<QWidget>(nombre);
+  return w && w->isVisible();
+}
+
+// Touches a field near its left edge, as a finger would; returns it (null when there is none).
+inline QLineEdit* TocarCampo(FormularioPrueba& f, const QString& nombre) {
+  auto* campo = f.control<QLineEdit>(nombre);
+  if (campo)
+    QTest::mouseClick(campo, Qt::LeftButton, {}, QPoint(4, campo->height() / 2));
+  return campo;
+}
+
 // The installation's rows that every form test starts with (options, terminal, colours).
 QStringList FilasDeLaInstalacion();
 
@@ -50,6 +75,8 @@ QString Producto(const QString& codigo, const QString& nombre,
                  const QList<QPair<QString, QString>>& columnas = {});
 // The insert of a product's stock row.
 QString Stock(const QString& codigo, const QString& stock, const QString& minimo);
+// The insert of a printer.
+QString Impresora(int codigo, const QString& nombre);
 
 // Gives the offscreen platform a screen of that size (its own is 800×800).
 void UsarPantalla(int ancho, int alto);

@@ -1,9 +1,45 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
+#include <QVariantList>
+#include <QtTest>
 
 #include "grabacion_producto.h"
 #include "listas_productos.h"
+
+// Every column of a product row, in the order of the table.
+inline const QString kColumnasProducto = QStringLiteral(
+    "select codigo, nombre, descripcion, codigobarras, seccion, coste, MargenComercial, Precio, "
+    "IVA, FechaAlta, Foto, color, proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
+    "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar from productos ");
+
+inline QString Hoy() {
+  return QDate::currentDate().toString(Qt::ISODate);
+}
+
+// Checks a row written against the values expected, column by column: a text must be a text, a
+// real and an integer are compared as numbers (each engine hands numbers back in types of its
+// own), anything else as it is.
+template <typename... Valores>
+void CompararFila(const QVariantList& fila, const Valores&... valores) {
+  const QVariantList esperado{QVariant(valores)...};
+  QCOMPARE(fila.size(), esperado.size());
+  for (qsizetype i = 0; i < fila.size(); ++i) {
+    const QVariant &v = fila.at(i), &e = esperado.at(i);
+    bool igual = v == e;
+    if (e.typeId() == QMetaType::Int || e.typeId() == QMetaType::LongLong)
+      igual = v.toLongLong() == e.toLongLong();
+    else if (e.typeId() == QMetaType::QString)
+      igual = v.typeId() == QMetaType::QString && v.toString() == e.toString();
+    else if (e.typeId() == QMetaType::Double)
+      igual = v.toDouble() == e.toDouble() || qFuzzyCompare(v.toDouble(), e.toDouble());
+    QVERIFY2(
+        igual,
+        qPrintable(
+            QStringLiteral("column %1: %2, expected %3").arg(i).arg(v.toString(), e.toString())));
+  }
+}
 
 // A draught beer as the form hands it to the save: every field filled, amounts typed with the
 // Spanish separator, two suppliers, the main one first.

@@ -21,10 +21,6 @@ using namespace alta;
 
 namespace {
 
-QString Hoy() {
-  return QDate::currentDate().toString(Qt::ISODate);
-}
-
 // A small picture for the till's button, in a folder of the manager's own.
 QString Imagen(const QString& carpeta, const QString& nombre) {
   QImage imagen(24, 24, QImage::Format_RGB32);
@@ -163,29 +159,11 @@ void TestAltaGrabacion::unGerenteDaDeAltaUnProductoSimple() {
   const QList<QVariantList> filas = f.inst().filas(kColumnasProducto + u"where codigo = '10'"_s);
   QCOMPARE(filas.size(), 1);
   const QVariantList& p = filas.first();
-  QCOMPARE(p.at(0).toString(), u"10"_s);
-  QCOMPARE(p.at(1).toString(), u"Vermut rojo"_s);
-  QCOMPARE(p.at(2).toString(), u"Vermut de grifo"_s);
-  QCOMPARE(p.at(3).toString(), u"8410000000024"_s);
-  QCOMPARE(p.at(4).toString(), u"F1"_s);
-  QCOMPARE(p.at(5).toDouble(), 2.0);
-  QCOMPARE(p.at(6).toDouble(), 1.1);
-  QCOMPARE(p.at(7).toDouble(), 3.3);
-  QCOMPARE(p.at(8).toDouble(), 10.0);
-  QCOMPARE(p.at(9).toString(), Hoy());
-  QCOMPARE(p.at(10).toString(), u"vermut.png"_s);
-  QCOMPARE(p.at(11).toLongLong(), 255);
-  QCOMPARE(p.at(12).toString(), u"P2"_s);  // the first supplier assigned
-  QCOMPARE(p.at(13).toString(), u"Litros"_s);
-  QCOMPARE(p.at(14).toDouble(), 6.0);
-  QCOMPARE(p.at(15).toInt(), 0);  // shown on the till
-  QCOMPARE(p.at(16).toInt(), 1);  // served at the bar
-  QCOMPARE(p.at(17).toInt(), 1);  // a sale product
-  QCOMPARE(p.at(18).toInt(), 8);
-  QCOMPARE(p.at(19).toInt(), 5);
-  QCOMPARE(p.at(20).toInt(), 1);
-  QCOMPARE(p.at(21).toInt(), 0);
-  QCOMPARE(p.at(22).toInt(), 0);
+  // Column 12: the first supplier assigned; 15: shown on the till; 16: served at the bar; 17: a
+  // sale product
+  CompararFila(p, u"10"_s, u"Vermut rojo"_s, u"Vermut de grifo"_s, u"8410000000024"_s, u"F1"_s, 2.0,
+               1.1, 3.3, 10.0, Hoy(), u"vermut.png"_s, 255, u"P2"_s, u"Litros"_s, 6.0, 0, 1, 1, 8,
+               5, 1, 0, 0);
   QCOMPARE(f.inst().filas(kColumnasStock + u"where Producto = 10"_s),
            (QList<QVariantList>{{10, 12.0, 6.0, 0.0}}));
   QCOMPARE(f.inst().filas(kEnlaces),
@@ -231,29 +209,10 @@ void TestAltaGrabacion::modificarReescribeElProductoSuStockYSusProveedores() {
   const QList<QVariantList> filas = f.inst().filas(kColumnasProducto + u"where codigo = '5'"_s);
   QCOMPARE(filas.size(), 1);
   const QVariantList& p = filas.first();
-  QCOMPARE(p.at(0).toString(), u"5"_s);
-  QCOMPARE(p.at(1).toString(), u"Tinto de verano"_s);
-  QCOMPARE(p.at(2).toString(), u"Vino"_s);
-  QCOMPARE(p.at(3).toString(), u""_s);
-  QCOMPARE(p.at(4).toString(), u"F1"_s);
-  QCOMPARE(p.at(5).toDouble(), 2.0);
-  QCOMPARE(p.at(6).toDouble(), 2.2);
-  QCOMPARE(p.at(7).toDouble(), 4.4);
-  QCOMPARE(p.at(8).toDouble(), 10.0);
-  QCOMPARE(p.at(9).toString(), Hoy());            // the date of creation becomes today's, as always
-  QCOMPARE(p.at(10).toString(), u"tinto.jpg"_s);  // no new picture: the stored one stays
-  QCOMPARE(p.at(11).toLongLong(), 65280);
-  QCOMPARE(p.at(12).toString(), u"P1"_s);
-  QCOMPARE(p.at(13).toString(), u"Litros"_s);
-  QCOMPARE(p.at(14).toDouble(), 3.0);
-  QCOMPARE(p.at(15).toInt(), 0);
-  QCOMPARE(p.at(16).toInt(), 1);
-  QCOMPARE(p.at(17).toInt(), 1);
-  QCOMPARE(p.at(18).toInt(), 40);
-  QCOMPARE(p.at(19).toInt(), 8);
-  QCOMPARE(p.at(20).toInt(), 2);
-  QCOMPARE(p.at(21).toInt(), 0);
-  QCOMPARE(p.at(22).toInt(), 0);
+  // Column 9: the date of creation becomes today's, as always; 10: no new picture: the stored one
+  // stays
+  CompararFila(p, u"5"_s, u"Tinto de verano"_s, u"Vino"_s, u""_s, u"F1"_s, 2.0, 2.2, 4.4, 10.0,
+               Hoy(), u"tinto.jpg"_s, 65280, u"P1"_s, u"Litros"_s, 3.0, 0, 1, 1, 40, 8, 2, 0, 0);
   // A simple product holds no consumptions: the stock row's are written as 0.
   QCOMPARE(f.inst().filas(kColumnasStock + u"where Producto = 5"_s),
            (QList<QVariantList>{{5, 7.0, 3.0, 0.0}}));

@@ -20,10 +20,6 @@ QStringList Codigos(const PanelObjNuevo* panel) {
   return r;
 }
 
-QString Impresora(int codigo, const QString& nombre) {
-  return u"insert into impresoras (codigo, nombre) values (%1, '%2')"_s.arg(codigo).arg(nombre);
-}
-
 }  // namespace
 
 // The load runs on an 800×600 screen: smaller than the design.

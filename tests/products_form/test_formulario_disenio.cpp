@@ -18,9 +18,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// Each name, of those separated by blanks, is one control of the class T, and only one.
 template <typename T>
-void Exigir(FormularioPrueba& f, const QStringList& nombres) {
-  for (const QString& nombre : nombres) {
+void Exigir(FormularioPrueba& f, const QString& nombres) {
+  for (const QString& nombre : nombres.split(u' ', Qt::SkipEmptyParts)) {
     const QList<QWidget*> todos = f.forma().findChildren<QWidget*>(nombre);
     QVERIFY2(todos.size() == 1, qPrintable(nombre + u": uno y solo uno"_s));
     QVERIFY2(qobject_cast<T*>(todos.first()), qPrintable(nombre + u": su clase"_s));
@@ -119,12 +120,6 @@ void Revisar(FormularioPrueba& f, const QString& estado) {
   }
 }
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 }  // namespace
 
 class TestFormularioDisenio : public QObject {
@@ -139,110 +134,44 @@ class TestFormularioDisenio : public QObject {
 void TestFormularioDisenio::cadaControlConSuNombreYSuClase() {
   FormularioPrueba f;
   QCOMPARE(f.forma().objectName(), u"frmProductos1024"_s);
-  Exigir<QGroupBox>(f, {u"fr_Inicial"_s,
-                        u"fr_ProductoGenerico"_s,
-                        u"fr_ProductosElaborados"_s,
-                        u"fr_Mensaje"_s,
-                        u"fr_colores"_s,
-                        u"fr_Mensajenumero"_s,
-                        u"fr_MensajeNombre"_s,
-                        u"fr_mensajeNumeroPElab"_s,
-                        u"fr_mensajeNombrePElab"_s,
-                        u"frProveedores"_s,
-                        u"frImpresoras"_s,
-                        u"frListaProductos"_s,
-                        u"fr_Cantidad"_s,
-                        u"frOcultarGen"_s,
-                        u"frOcultar"_s,
-                        u"frFlechasGen"_s,
-                        u"frMostrarCaja"_s,
-                        u"frlogo1"_s,
-                        u"fr_DatosProdElab"_s,
-                        u"fr_teclado"_s});
-  Exigir<QPushButton>(f, {u"cmd_ProdGenerico"_s,
-                          u"cmd_ProdElaborado"_s,
-                          u"Boton_SM1"_s,
-                          u"cmd_Salir2"_s,
-                          u"cmd_AceptarProveedor"_s,
-                          u"cmd_CancelarProveedor"_s,
-                          u"Command3"_s,
-                          u"Command5"_s,
-                          u"cmdCocina"_s,
-                          u"cmdBarra"_s,
-                          u"cmd_Proveedor"_s,
-                          u"bt_botonSig"_s,
-                          u"bt_botonAnt"_s,
-                          u"cmd_nuevo"_s,
-                          u"cmd_modificar"_s,
-                          u"cmd_aceptar"_s,
-                          u"cmd_cancelar"_s,
-                          u"cmd_eliminar"_s,
-                          u"cmd_buscar"_s,
-                          u"cmd_ayuda"_s,
-                          u"cmd_salir"_s,
-                          u"cmd_ListaProd"_s,
-                          u"Command1"_s,
-                          u"Command4"_s,
-                          u"cmdImpresoras"_s,
-                          u"cmdImpresorasElab"_s,
-                          u"cmdCInterno"_s,
-                          u"cmdCVenta"_s,
-                          u"Boton_SM2"_s,
-                          u"cmd_SalirProdEla"_s,
-                          u"cmd_AyudaProdEla"_s,
-                          u"cmd_NuevoProdEla"_s,
-                          u"cmd_ModificarProdEla"_s,
-                          u"cmd_EliminarProdEla"_s,
-                          u"cmd_AceptarProdEl"_s,
-                          u"cmd_CancelarProdEl"_s,
-                          u"bt_antpelab"_s,
-                          u"bt_sigpelab"_s,
-                          u"bt_flecha"_s});
-  Exigir<QLineEdit>(
-      f, {u"txt_Cantidad"_s, u"txt_nombre"_s, u"txtCodBarras"_s, u"txt_descripcion"_s,
-          u"txtDescNumericaPGen"_s, u"txt_coste"_s, u"txt_iva"_s, u"txt_margen"_s, u"txt_precio"_s,
-          u"txt_stock_actual"_s, u"txt_stock_minimo"_s, u"txt_NombreElaborado"_s,
-          u"txt_DescElaborado"_s, u"txtDescNumerica"_s, u"txt_costeElaborado"_s,
-          u"txt_ImpuestoElaborado"_s, u"txt_PrecioElaborado"_s});
-  Exigir<QLabel>(f, {u"Label12"_s,
-                     u"lbl_ModificarTicket"_s,
-                     u"Label2"_s,
-                     u"lblMensajeNumero"_s,
-                     u"lblMensNombre"_s,
-                     u"lblDescNumPElab"_s,
-                     u"lblProducto"_s,
-                     u"lblPreparado"_s,
-                     u"Label6"_s,
-                     u"lblnomFamilia"_s,
-                     u"lblPos"_s,
-                     u"pict_imagen"_s,
-                     u"lbl_Insertar"_s,
-                     u"pic_ColorPG"_s,
-                     u"lbl_color"_s,
-                     u"lblNomProd"_s,
-                     u"lbl_coste"_s,
-                     u"lbl_precio"_s,
-                     u"lbl_iva"_s,
-                     u"lbl_percent"_s,
-                     u"lbl_stock_minimo"_s,
-                     u"Label16"_s,
-                     u"Label14"_s,
-                     u"Lbl_Posicion"_s,
-                     u"lblNomFamilia_elab"_s,
-                     u"lblpospelab"_s,
-                     u"pic_ProductoElaborado"_s,
-                     u"pic_Color"_s,
-                     u"lbl_colorElab"_s,
-                     u"lblProdASel"_s,
-                     u"lbl_ProductoElaborado"_s});
-  Exigir<QListWidget>(
-      f, {u"lb_Proveedores"_s, u"lb_ProveedoresAsignados"_s, u"lb_impresoras"_s, u"lbCodigos"_s,
-          u"lstProductos"_s, u"lb_Productos"_s, u"lb_ProductosSel"_s, u"lb_ProductosElaborados"_s});
-  Exigir<QRadioButton>(f, {u"optCocina"_s, u"optBarra"_s, u"opt_cocina"_s, u"opt_Venta"_s,
-                           u"opt_ambos"_s, u"optBarraElab"_s, u"optCocinaElab"_s});
-  Exigir<QCheckBox>(f, {u"ch_Mostrar"_s, u"chkProdEspecial"_s});
-  Exigir<QComboBox>(f, {u"cbo_Medida"_s});
-  Exigir<PanelObjNuevo>(f, {u"PanelFamilias"_s, u"PanelFamilias_Elab"_s});
+  Exigir<QGroupBox>(f,
+                    u"fr_Inicial fr_ProductoGenerico fr_ProductosElaborados fr_Mensaje "
+                    "fr_colores fr_Mensajenumero fr_MensajeNombre fr_mensajeNumeroPElab "
+                    "fr_mensajeNombrePElab frProveedores frImpresoras frListaProductos "
+                    "fr_Cantidad frOcultarGen frOcultar frFlechasGen frMostrarCaja frlogo1 "
+                    "fr_DatosProdElab fr_teclado"_s);
+  Exigir<QPushButton>(f,
+                      u"cmd_ProdGenerico cmd_ProdElaborado Boton_SM1 cmd_Salir2 "
+                      "cmd_AceptarProveedor cmd_CancelarProveedor Command3 Command5 "
+                      "cmdCocina cmdBarra cmd_Proveedor bt_botonSig bt_botonAnt cmd_nuevo "
+                      "cmd_modificar cmd_aceptar cmd_cancelar cmd_eliminar cmd_buscar "
+                      "cmd_ayuda cmd_salir cmd_ListaProd Command1 Command4 cmdImpresoras "
+                      "cmdImpresorasElab cmdCInterno cmdCVenta Boton_SM2 cmd_SalirProdEla "
+                      "cmd_AyudaProdEla cmd_NuevoProdEla cmd_ModificarProdEla "
+                      "cmd_EliminarProdEla cmd_AceptarProdEl cmd_CancelarProdEl bt_antpelab "
+                      "bt_sigpelab bt_flecha"_s);
+  Exigir<QLineEdit>(f,
+                    u"txt_Cantidad txt_nombre txtCodBarras txt_descripcion "
+                    "txtDescNumericaPGen txt_coste txt_iva txt_margen txt_precio "
+                    "txt_stock_actual txt_stock_minimo txt_NombreElaborado txt_DescElaborado "
+                    "txtDescNumerica txt_costeElaborado txt_ImpuestoElaborado "
+                    "txt_PrecioElaborado"_s);
+  Exigir<QLabel>(f,
+                 u"Label12 lbl_ModificarTicket Label2 lblMensajeNumero lblMensNombre "
+                 "lblDescNumPElab lblProducto lblPreparado Label6 lblnomFamilia lblPos "
+                 "pict_imagen lbl_Insertar pic_ColorPG lbl_color lblNomProd lbl_coste "
+                 "lbl_precio lbl_iva lbl_percent lbl_stock_minimo Label16 Label14 "
+                 "Lbl_Posicion lblNomFamilia_elab lblpospelab pic_ProductoElaborado "
+                 "pic_Color lbl_colorElab lblProdASel lbl_ProductoElaborado"_s);
+  Exigir<QListWidget>(f,
+                      u"lb_Proveedores lb_ProveedoresAsignados lb_impresoras lbCodigos "
+                      "lstProductos lb_Productos lb_ProductosSel lb_ProductosElaborados"_s);
+  Exigir<QRadioButton>(f,
+                       u"optCocina optBarra opt_cocina opt_Venta opt_ambos optBarraElab "
+                       "optCocinaElab"_s);
+  Exigir<QCheckBox>(f, u"ch_Mostrar chkProdEspecial"_s);
+  Exigir<QComboBox>(f, u"cbo_Medida"_s);
+  Exigir<PanelObjNuevo>(f, u"PanelFamilias PanelFamilias_Elab"_s);
 }
 
 void TestFormularioDisenio::lasTeclasYLasFlechasLlevanSuIndice() {

@@ -19,12 +19,6 @@ namespace {
 const QColor kFoco = ColorDesdeValor(kColorFocoPrueba);
 const QColor kCampo = ColorDesdeValor(kColorCampoPrueba);
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 // A form showing one simple product in change mode, or one elaborated product.
 FormularioPrueba* Modificando(int tipo = 1) {
   auto* f = new FormularioPrueba(
@@ -41,14 +35,6 @@ FormularioPrueba* Modificando(int tipo = 1) {
       f->control<QPushButton>(tipo == 2 ? u"cmd_ModificarProdEla"_s : u"cmd_modificar"_s),
       Qt::LeftButton);
   return f;
-}
-
-// Touches a field, as a finger would: it takes the focus with its whole text selected.
-QLineEdit* Tocar(FormularioPrueba& f, const QString& nombre) {
-  auto* campo = f.control<QLineEdit>(nombre);
-  if (campo)
-    QTest::mouseClick(campo, Qt::LeftButton, {}, QPoint(4, campo->height() / 2));
-  return campo;
 }
 
 void Separador(const QString& separador) {
@@ -111,7 +97,7 @@ void TestFormularioImportes::reglaDecimalConTeclasReales() {
   std::unique_ptr<FormularioPrueba> f(Modificando());
   Separador(separador);
   f->entorno().sesion.numDecimales = static_cast<qint16>(decimales);
-  QLineEdit* c = Tocar(*f, campo);
+  QLineEdit* c = TocarCampo(*f, campo);
   QVERIFY(c);
   c->setText(inicio);
   if (alPrincipio) {
@@ -128,8 +114,8 @@ void TestFormularioImportes::reglaDecimalConTeclasReales() {
 void TestFormularioImportes::elFocoPintaElCampoYLoHaceActual() {
   std::unique_ptr<FormularioPrueba> f(Modificando());
   // Change mode gives the name the focus; a touch in a field that has it only moves the caret.
-  Tocar(*f, u"txt_descripcion"_s);
-  QLineEdit* nombre = Tocar(*f, u"txt_nombre"_s);
+  TocarCampo(*f, u"txt_descripcion"_s);
+  QLineEdit* nombre = TocarCampo(*f, u"txt_nombre"_s);
   QTRY_COMPARE(f->forma().importes().campoActual(), nombre);
   QCOMPARE(ColorFondo(nombre), kFoco);
   QCOMPARE(nombre->selectedText(), u"Caña"_s);
@@ -137,7 +123,7 @@ void TestFormularioImportes::elFocoPintaElCampoYLoHaceActual() {
   QTest::keyClicks(nombre, u"Agua"_s);
   QCOMPARE(nombre->text(), u"Agua"_s);
 
-  QLineEdit* coste = Tocar(*f, u"txt_coste"_s);
+  QLineEdit* coste = TocarCampo(*f, u"txt_coste"_s);
   QTRY_COMPARE(f->forma().importes().campoActual(), coste);
   QCOMPARE(ColorFondo(coste), kFoco);
   QCOMPARE(ColorFondo(nombre), kCampo);
@@ -154,17 +140,17 @@ void TestFormularioImportes::elCosteMarcaElIvaYElIvaElPrecio() {
   auto* iva = f->control<QLineEdit>(u"txt_iva"_s);
   auto* precio = f->control<QLineEdit>(u"txt_precio"_s);
   QCOMPARE(ColorFondo(iva), kCampo);
-  QTest::keyClicks(Tocar(*f, u"txt_coste"_s), u"5"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"5"_s);
   QCOMPARE(ColorFondo(iva), kFoco);
   QCOMPARE(ColorFondo(precio), kCampo);
-  QTest::keyClicks(Tocar(*f, u"txt_iva"_s), u"2"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_iva"_s), u"2"_s);
   QCOMPARE(ColorFondo(precio), kFoco);
 }
 
 void TestFormularioImportes::elMargenSinCosteAvisaYDejaPasarLaTecla() {
   std::unique_ptr<FormularioPrueba> f(Modificando());
   f->control<QLineEdit>(u"txt_coste"_s)->clear();
-  QLineEdit* margen = Tocar(*f, u"txt_margen"_s);
+  QLineEdit* margen = TocarCampo(*f, u"txt_margen"_s);
   f->dialogos().olvidar();
   QTest::keyClicks(margen, u"7x"_s);
   const QString aviso = u"Debe Indicar Antes una Cantidad para el coste y para el iva"_s;
@@ -176,9 +162,9 @@ void TestFormularioImportes::elMargenSinCosteAvisaYDejaPasarLaTecla() {
 
 void TestFormularioImportes::elMargenDaElPrecioYElPrecioElMargen() {
   std::unique_ptr<FormularioPrueba> f(Modificando());
-  QTest::keyClicks(Tocar(*f, u"txt_coste"_s), u"10"_s);
-  QTest::keyClicks(Tocar(*f, u"txt_iva"_s), u"10"_s);
-  QLineEdit* margen = Tocar(*f, u"txt_margen"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"10"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_iva"_s), u"10"_s);
+  QLineEdit* margen = TocarCampo(*f, u"txt_margen"_s);
   margen->clear();
   QTest::keyClicks(margen, u"5"_s);
   QTest::keyClick(margen, Qt::Key_Return);
@@ -186,7 +172,7 @@ void TestFormularioImportes::elMargenDaElPrecioYElPrecioElMargen() {
   // The price's change works the margin out again, tax on the margin included.
   QCOMPARE(margen->text(), u"5,50"_s);
 
-  QTest::keyClicks(Tocar(*f, u"txt_coste"_s), u"1000"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"1000"_s);
   margen->setText(u"122,5"_s);
   QTest::keyClick(margen, Qt::Key_Enter);
   QCOMPARE(f->control<QLineEdit>(u"txt_precio"_s)->text(), u"1.234,75"_s);
@@ -206,12 +192,12 @@ void TestFormularioImportes::elPrecioTecleadoDaElMargen() {
   f->control<QLineEdit>(u"txt_coste"_s)->setText(u"100"_s);
   f->control<QLineEdit>(u"txt_iva"_s)->setText(u"10"_s);
   auto* margen = f->control<QLineEdit>(u"txt_margen"_s);
-  QTest::keyClicks(Tocar(*f, u"txt_precio"_s), u"121"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_precio"_s), u"121"_s);
   QCOMPARE(margen->text(), u"11,00"_s);
 
   // With no cost the cost becomes 0 and the margin is left alone.
   f->control<QLineEdit>(u"txt_coste"_s)->clear();
-  QTest::keyClicks(Tocar(*f, u"txt_precio"_s), u"5"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_precio"_s), u"5"_s);
   QCOMPARE(f->control<QLineEdit>(u"txt_coste"_s)->text(), u"0"_s);
   QCOMPARE(margen->text(), u"11,00"_s);
 
@@ -230,7 +216,7 @@ void TestFormularioImportes::elPrecioTecleadoDaElMargen() {
 
 void TestFormularioImportes::stockMinimoSoloCifras() {
   std::unique_ptr<FormularioPrueba> f(Modificando());
-  QLineEdit* minimo = Tocar(*f, u"txt_stock_minimo"_s);
+  QLineEdit* minimo = TocarCampo(*f, u"txt_stock_minimo"_s);
   QCOMPARE(minimo->selectedText(), u"1"_s);
   QTest::keyClicks(minimo, u"2,5a."_s);
   QCOMPARE(minimo->text(), u"25"_s);
@@ -266,7 +252,7 @@ void TestFormularioImportes::elElaboradoMuestraSusCamposPasoAPaso() {
   std::unique_ptr<FormularioPrueba> f(Modificando(2));
   auto visible = [&](const QString& n) { return f->control<QWidget>(n)->isVisible(); };
   QVERIFY(visible(u"txt_ImpuestoElaborado"_s) && visible(u"txt_PrecioElaborado"_s));
-  QLineEdit* coste = Tocar(*f, u"txt_costeElaborado"_s);
+  QLineEdit* coste = TocarCampo(*f, u"txt_costeElaborado"_s);
   QTest::keyClick(coste, Qt::Key_Backspace);
   QCOMPARE(coste->text(), QString());
   QVERIFY(!visible(u"txt_ImpuestoElaborado"_s));
@@ -274,7 +260,7 @@ void TestFormularioImportes::elElaboradoMuestraSusCamposPasoAPaso() {
   QTest::keyClicks(coste, u"2"_s);
   QVERIFY(visible(u"txt_ImpuestoElaborado"_s));
   QVERIFY(visible(u"lbl_ImpuestoElaborado"_s));
-  QLineEdit* iva = Tocar(*f, u"txt_ImpuestoElaborado"_s);
+  QLineEdit* iva = TocarCampo(*f, u"txt_ImpuestoElaborado"_s);
   QTest::keyClick(iva, Qt::Key_Backspace);
   QVERIFY(!visible(u"txt_PrecioElaborado"_s));
   QVERIFY(!visible(u"lbl_PrecioElaborado"_s));

@@ -22,21 +22,9 @@ const QString kProveedor =
     u"insert into proveedores (codigo, nombre, borrar) values ('P1', "
     "'Distribuciones Sur', 0)"_s;
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b, qPrintable(nombre));
-  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 bool Activo(FormularioPrueba& f, const QString& nombre) {
   const QWidget* w = f.control<QWidget>(nombre);
   return w && w->isEnabled();
-}
-
-bool Visible(FormularioPrueba& f, const QString& nombre) {
-  const QWidget* w = f.control<QWidget>(nombre);
-  return w && w->isVisible();
 }
 
 }  // namespace

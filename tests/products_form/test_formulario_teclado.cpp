@@ -25,13 +25,6 @@ void Modificar(FormularioPrueba& f) {
   QTest::mouseClick(f.control<QPushButton>(u"cmd_modificar"_s), Qt::LeftButton);
 }
 
-QLineEdit* Tocar(FormularioPrueba& f, const QString& nombre) {
-  auto* campo = f.control<QLineEdit>(nombre);
-  if (campo)
-    QTest::mouseClick(campo, Qt::LeftButton, {}, QPoint(4, campo->height() / 2));
-  return campo;
-}
-
 // Presses keys of the on-screen keyboard: one character each, "\b" Backspace, "\r" Enter.
 void Teclear(FormularioPrueba& f, const QString& teclas) {
   for (QChar c : teclas) {
@@ -69,7 +62,7 @@ void TestFormularioTeclado::sinCampoActualNoPasaNada() {
 void TestFormularioTeclado::escribeAlFinalYBorraElUltimo() {
   std::unique_ptr<FormularioPrueba> f(EnProductos());
   Modificar(*f);
-  QLineEdit* descripcion = Tocar(*f, u"txt_descripcion"_s);
+  QLineEdit* descripcion = TocarCampo(*f, u"txt_descripcion"_s);
   QTRY_COMPARE(f->forma().importes().campoActual(), descripcion);
   // The keys do not take the focus away from the field.
   Teclear(*f, u"BAR"_s);
@@ -91,7 +84,7 @@ void TestFormularioTeclado::escribeAlFinalYBorraElUltimo() {
 
 void TestFormularioTeclado::unCampoBloqueadoSeVaciaPeroNoSeEscribe() {
   std::unique_ptr<FormularioPrueba> f(EnProductos());
-  QLineEdit* nombre = Tocar(*f, u"txt_nombre"_s);
+  QLineEdit* nombre = TocarCampo(*f, u"txt_nombre"_s);
   QVERIFY(nombre->isReadOnly());
   QCOMPARE(nombre->selectedText(), u"Caña"_s);
   // The keyboard clears a whole selection before it looks at the lock, as it always has.
@@ -106,7 +99,7 @@ void TestFormularioTeclado::unCampoBloqueadoSeVaciaPeroNoSeEscribe() {
 void TestFormularioTeclado::losImportesPasanPorElFiltro() {
   std::unique_ptr<FormularioPrueba> f(EnProductos());
   Modificar(*f);
-  QLineEdit* coste = Tocar(*f, u"txt_coste"_s);
+  QLineEdit* coste = TocarCampo(*f, u"txt_coste"_s);
   Teclear(*f, u"3,2"_s);
   QCOMPARE(coste->text(), u"3,2"_s);
   Teclear(*f, u"5"_s);
@@ -114,7 +107,7 @@ void TestFormularioTeclado::losImportesPasanPorElFiltro() {
   // A refused key still appends: the character of code 0.
   Teclear(*f, u"7"_s);
   QCOMPARE(coste->text(), u"3,25"_s + QChar(0));
-  QLineEdit* precio = Tocar(*f, u"txt_precio"_s);
+  QLineEdit* precio = TocarCampo(*f, u"txt_precio"_s);
   Teclear(*f, u"A"_s);
   QCOMPARE(precio->text(), QString(QChar(0)));
 }
@@ -127,10 +120,10 @@ void TestFormularioTeclado::elImpuestoDelElaboradoAceptaLetras() {
   QVERIFY(f->mostrar());
   QTest::mouseClick(f->control<QPushButton>(u"cmd_ProdElaborado"_s), Qt::LeftButton);
   QTest::mouseClick(f->control<QPushButton>(u"cmd_ModificarProdEla"_s), Qt::LeftButton);
-  QLineEdit* iva = Tocar(*f, u"txt_ImpuestoElaborado"_s);
+  QLineEdit* iva = TocarCampo(*f, u"txt_ImpuestoElaborado"_s);
   Teclear(*f, u"1A"_s);
   QCOMPARE(iva->text(), u"1A"_s);
-  QLineEdit* coste = Tocar(*f, u"txt_costeElaborado"_s);
+  QLineEdit* coste = TocarCampo(*f, u"txt_costeElaborado"_s);
   Teclear(*f, u"1A"_s);
   QCOMPARE(coste->text(), u"1"_s + QChar(0));
 }
@@ -138,7 +131,7 @@ void TestFormularioTeclado::elImpuestoDelElaboradoAceptaLetras() {
 void TestFormularioTeclado::elStockMinimoSoloCifras() {
   std::unique_ptr<FormularioPrueba> f(EnProductos());
   Modificar(*f);
-  QLineEdit* minimo = Tocar(*f, u"txt_stock_minimo"_s);
+  QLineEdit* minimo = TocarCampo(*f, u"txt_stock_minimo"_s);
   Teclear(*f, u"2,A5"_s);
   QCOMPARE(minimo->text(), u"25"_s);
 }
@@ -149,10 +142,10 @@ void TestFormularioTeclado::laDescripcionMarcaLosProveedores() {
   auto* proveedor = f->control<QPushButton>(u"cmd_Proveedor"_s);
   const QColor antes = ColorFondo(proveedor);
   QVERIFY(antes != ColorDesdeValor(kColorFocoPrueba));
-  Tocar(*f, u"txt_nombre"_s);
+  TocarCampo(*f, u"txt_nombre"_s);
   Teclear(*f, u"A"_s);
   QCOMPARE(ColorFondo(proveedor), antes);
-  Tocar(*f, u"txt_descripcion"_s);
+  TocarCampo(*f, u"txt_descripcion"_s);
   Teclear(*f, u"A"_s);
   QCOMPARE(ColorFondo(proveedor), ColorDesdeValor(kColorFocoPrueba));
 }
@@ -162,7 +155,7 @@ void TestFormularioTeclado::intro() {
   Modificar(*f);
   QList<double> aceptadas;
   f->forma().importes().aceptarCantidad = [&](double c) { aceptadas.append(c); };
-  QLineEdit* nombre = Tocar(*f, u"txt_descripcion"_s);
+  QLineEdit* nombre = TocarCampo(*f, u"txt_descripcion"_s);
   nombre->end(false);
   const QString antes = nombre->text();
   Teclear(*f, u"\r"_s);
@@ -173,7 +166,7 @@ void TestFormularioTeclado::intro() {
   auto* cantidad = f->control<QLineEdit>(u"txt_Cantidad"_s);
   MostrarMarco(f->control<QWidget>(u"fr_Cantidad"_s));
   cantidad->setText(u"0"_s);
-  Tocar(*f, u"txt_Cantidad"_s);
+  TocarCampo(*f, u"txt_Cantidad"_s);
   QTRY_COMPARE(f->forma().importes().campoActual(), cantidad);
   Teclear(*f, u"\r"_s);
   QVERIFY(aceptadas.isEmpty());

@@ -18,12 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 QString Texto(FormularioPrueba& f, const QString& nombre) {
   if (auto* campo = f.control<QLineEdit>(nombre))
     return campo->text();

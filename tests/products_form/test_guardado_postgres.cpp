@@ -1,6 +1,5 @@
 #include <QDate>
 #include <QSqlQuery>
-#include <QSqlRecord>
 #include <QtTest>
 
 #include "codigos_producto.h"
@@ -28,22 +27,6 @@ class TestGuardadoPostgres : public QObject {
   std::unique_ptr<PostgresPrueba> pg_;
   OrigenDatos origen_;
 };
-
-namespace {
-
-QList<QVariantList> Filas(Conexion& c, const QString& consulta) {
-  QList<QVariantList> r;
-  QSqlQuery q = c.consultar(consulta);
-  while (q.next()) {
-    QVariantList fila;
-    for (int i = 0; i < q.record().count(); ++i)
-      fila.append(q.value(i));
-    r.append(fila);
-  }
-  return r;
-}
-
-}  // namespace
 
 void TestGuardadoPostgres::initTestCase() {
   // The amounts are typed with the Spanish separator.
@@ -76,33 +59,16 @@ void TestGuardadoPostgres::grabaModificaYEliminaComoEnSQLite() {
       "precio, iva, fechaalta, foto, color, proveedor, unidadmedida, stockminimo, "
       "mostrarencaja, hechoen, tipoprod, descnumerica, orden, impresora, productoespecial, "
       "borrar from productos where codigo = '10'"_s;
-  QCOMPARE(Filas(c, columnas), (QList<QVariantList>{{u"10"_s,
-                                                     u"Caña"_s,
-                                                     u"Cerveza de barril"_s,
-                                                     u"8410000000017"_s,
-                                                     u"7"_s,
-                                                     0.6,
-                                                     1.0,
-                                                     1.76,
-                                                     10.0,
-                                                     QDate::currentDate(),
-                                                     u"cana.jpg"_s,
-                                                     255,
-                                                     u"P01"_s,
-                                                     u"Unidades"_s,
-                                                     5.0,
-                                                     0,
-                                                     1,
-                                                     2,
-                                                     12,
-                                                     3,
-                                                     2,
-                                                     0,
-                                                     0}}));
-  QCOMPARE(Filas(c, u"select producto, stock, stockminimo, consumicionesdisponibles from stock"_s),
-           (QList<QVariantList>{{10, 24.0, 5.0, 0.0}}));
+  const QList<QVariantList> filas = inst.filas(columnas);
+  QCOMPARE(filas.size(), 1);
+  CompararFila(filas.first(), u"10"_s, u"Caña"_s, u"Cerveza de barril"_s, u"8410000000017"_s,
+               u"7"_s, 0.6, 1.0, 1.76, 10.0, QDate::currentDate(), u"cana.jpg"_s, 255, u"P01"_s,
+               u"Unidades"_s, 5.0, 0, 1, 2, 12, 3, 2, 0, 0);
   QCOMPARE(
-      Filas(c, u"select producto, proveedor, coste from productoproveedor order by proveedor"_s),
+      inst.filas(u"select producto, stock, stockminimo, consumicionesdisponibles from stock"_s),
+      (QList<QVariantList>{{10, 24.0, 5.0, 0.0}}));
+  QCOMPARE(
+      inst.filas(u"select producto, proveedor, coste from productoproveedor order by proveedor"_s),
       (QList<QVariantList>{{u"10"_s, u"P01"_s, 0.0}, {u"10"_s, u"PRV123"_s, 0.0}}));
   // Text compares without regard to letter case, as the till expects.
   QVERIFY(bcomprobarSiExisteNombre(inst.entorno(), u"CAña"_s, 99));
@@ -114,15 +80,15 @@ void TestGuardadoPostgres::grabaModificaYEliminaComoEnSQLite() {
   cambio.foto.clear();
   cambio.proveedores = {LineaLista(u"Sur"_s, u"PRV123"_s)};
   QVERIFY(modificarProducto(inst.entorno(), cambio));
-  QCOMPARE(Filas(c, u"select precio, foto, proveedor from productos where codigo = '10'"_s),
+  QCOMPARE(inst.filas(u"select precio, foto, proveedor from productos where codigo = '10'"_s),
            (QList<QVariantList>{{2.0, u"cana.jpg"_s, u"PRV123"_s}}));
-  QCOMPARE(Filas(c, u"select proveedor from productoproveedor"_s),
+  QCOMPARE(inst.filas(u"select proveedor from productoproveedor"_s),
            (QList<QVariantList>{{u"PRV123"_s}}));
 
   QVERIFY(EliminarProducto(inst.entorno(), 10));
-  QCOMPARE(Filas(c, u"select borrar from productos where codigo = '10'"_s),
+  QCOMPARE(inst.filas(u"select borrar from productos where codigo = '10'"_s),
            (QList<QVariantList>{{-1}}));
-  QVERIFY(Filas(c, u"select * from stock"_s).isEmpty());
+  QVERIFY(inst.filas(u"select * from stock"_s).isEmpty());
   QVERIFY(inst.erroresMostrados().isEmpty());
 }
 

@@ -26,12 +26,6 @@ QColor ColorMostrado(const QLabel* caja) {
   return imagen.isNull() ? QColor() : imagen.pixelColor(imagen.width() / 2, imagen.height() / 2);
 }
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 void Tocar(FormularioPrueba& f, const QString& nombre) {
   auto* w = f.control<QWidget>(nombre);
   QVERIFY2(w && w->isVisible(), qPrintable(nombre));
@@ -77,8 +71,6 @@ class TestImagenColor : public QObject {
   }
   void elLimiteDe75000BytesEnLosProductosSimples();
   void losElaboradosNoTienenLimite();
-  void laCopiaNuncaSobrescribe();
-  void unArchivoQueNoEsImagenSeRechaza();
   void soloEnModoCambios();
   void elColorPintaSuCajaYSeGuarda();
 
@@ -147,58 +139,6 @@ void TestImagenColor::losElaboradosNoTienenLimite() {
   QCOMPARE(Contenido(QDir(rutaFotos).filePath(u"grande.png"_s)), Contenido(grande));
   // The cost comes next.
   QTRY_COMPARE(QApplication::focusWidget(), f.control<QWidget>(u"txt_costeElaborado"_s));
-}
-
-void TestImagenColor::laCopiaNuncaSobrescribe() {
-  FormularioPrueba f(ProductosDePrueba());
-  const QString fotos = QDir(f.inst().carpeta()).filePath(u"fotos"_s);
-  const QString primera = Imagen(fotos, u"cana.png"_s, 300, Qt::red);
-  const QByteArray antes = Contenido(primera);
-  QDir().mkpath(origen_->filePath(u"otra"_s));
-  const QString segunda = Imagen(origen_->filePath(u"otra"_s), u"cana.png"_s, 500, Qt::green);
-  QVERIFY(f.mostrar());
-  Pulsar(f, u"cmd_ProdGenerico"_s);
-  Pulsar(f, u"cmd_modificar"_s);
-
-  // The file chosen from the folder itself and another file of the same name elsewhere: the
-  // folder keeps the first, and the product points at it.
-  for (const QString& ruta : {primera, segunda}) {
-    f.dialogos().siguienteArchivo(ruta);
-    Tocar(f, u"pict_imagen"_s);
-    QCOMPARE(f.forma().estado().fotoElegida, u"cana.png"_s);
-    QCOMPARE(Contenido(QDir(fotos).filePath(u"cana.png"_s)), antes);
-  }
-  QCOMPARE(QDir(fotos).entryList(QDir::Files), QStringList{u"cana.png"_s});
-  QVERIFY(f.dialogos().mensajes().isEmpty());
-  QVERIFY(f.inst().erroresMostrados().isEmpty());
-}
-
-void TestImagenColor::unArchivoQueNoEsImagenSeRechaza() {
-  FormularioPrueba f(ProductosDePrueba());
-  const QString buena = Imagen(origen_->path(), u"buena.png"_s, 200, Qt::red);
-  const QString texto = origen_->filePath(u"notas.png"_s);
-  {
-    QFile archivo(texto);
-    QVERIFY(archivo.open(QIODevice::WriteOnly));
-    archivo.write("no es una imagen");
-  }
-  QVERIFY(f.mostrar());
-  Pulsar(f, u"cmd_ProdGenerico"_s);
-  Pulsar(f, u"cmd_modificar"_s);
-  f.dialogos().siguienteArchivo(buena);
-  Tocar(f, u"pict_imagen"_s);
-  QCOMPARE(f.forma().estado().fotoElegida, u"buena.png"_s);
-
-  f.dialogos().siguienteArchivo(texto);
-  Tocar(f, u"pict_imagen"_s);
-  const QList<DialogosGuion::Llamada> avisos = f.dialogos().llamadasDe(u"mensaje"_s);
-  QCOMPARE(avisos.size(), 1);
-  QCOMPARE(avisos.first().texto, u"La imágen indicada no tiene un formato válido"_s);
-  QCOMPARE(avisos.first().titulo, TituloPrograma());
-  QCOMPARE(avisos.first().icono, ServicioDialogos::Icono::Exclamacion);
-  QCOMPARE(f.forma().estado().fotoElegida, u"buena.png"_s);
-  QCOMPARE(ColorMostrado(f.control<QLabel>(u"pict_imagen"_s)), QColor(Qt::red));
-  QVERIFY(!QFile::exists(QDir(f.inst().carpeta()).filePath(u"fotos/notas.png"_s)));
 }
 
 void TestImagenColor::soloEnModoCambios() {

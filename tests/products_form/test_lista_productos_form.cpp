@@ -12,12 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 bool ListaVisible(FormularioPrueba& f) {
   return f.control<QGroupBox>(u"frListaProductos"_s)->isVisible();
 }

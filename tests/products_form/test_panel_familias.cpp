@@ -18,12 +18,6 @@ QString Familia(const QString& codigo, const QString& nombre, int orden) {
              .arg(orden);
 }
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b && b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 // Touches a family's button on a panel, paging forward with the panel's arrow until it shows.
 void TocarFamilia(FormularioPrueba& f, const QString& panel, const QString& familia) {
   auto* p = f.control<PanelObjNuevo>(panel);

@@ -37,13 +37,6 @@ QStringList Catalogo() {
 const QString kEnlaces =
     u"select producto, proveedor, coste from productoproveedor order by producto, proveedor"_s;
 
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QPushButton>(nombre);
-  QVERIFY2(b, qPrintable(nombre));
-  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
-
 QStringList Lineas(const QListWidget* lista) {
   QStringList lineas;
   for (int i = 0; i < lista->count(); ++i)

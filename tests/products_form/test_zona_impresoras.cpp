@@ -17,30 +17,14 @@ namespace {
 const QString kProveedor =
     u"insert into proveedores (codigo, nombre, borrar) values ('P1', 'Distribuciones Sur', 0)"_s;
 
-QString Impresora(int codigo, const QString& nombre) {
-  return u"insert into impresoras (codigo, nombre) values (%1, '%2')"_s.arg(codigo).arg(nombre);
-}
-
 const QStringList kTresImpresoras = {Impresora(3, u"Barra"_s), Impresora(5, u"Cocina"_s),
                                      Impresora(8, u"Terraza"_s)};
-
-void Pulsar(FormularioPrueba& f, const QString& nombre) {
-  auto* b = f.control<QAbstractButton>(nombre);
-  QVERIFY2(b, qPrintable(nombre));
-  QVERIFY2(b->isVisible() && b->isEnabled(), qPrintable(nombre));
-  QTest::mouseClick(b, Qt::LeftButton);
-}
 
 void TocarFila(FormularioPrueba& f, const QString& lista, int fila) {
   auto* l = f.control<QListWidget>(lista);
   QVERIFY2(l && l->isVisible(), qPrintable(lista));
   const QRect zona = l->visualItemRect(l->item(fila));
   QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, zona.center());
-}
-
-bool Visible(FormularioPrueba& f, const QString& nombre) {
-  const QWidget* w = f.control<QWidget>(nombre);
-  return w && w->isVisible();
 }
 
 QString Linea(FormularioPrueba& f) {

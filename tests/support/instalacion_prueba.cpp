@@ -77,9 +77,9 @@ void InstalacionPrueba::ejecutarEnInformes(const QStringList& sentencias) {
   EjecutarEn(rutaInformes(), sentencias);
 }
 
-QList<QVariantList> InstalacionPrueba::filas(const QString& consulta) {
+QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta) {
   QList<QVariantList> r;
-  QSqlQuery q = conexion().consultar(consulta);
+  QSqlQuery q = conexion.consultar(consulta);
   while (q.next()) {
     QVariantList fila;
     for (int i = 0; i < q.record().count(); ++i)

@@ -10,6 +10,9 @@
 
 class PostgresPrueba;
 
+// The rows of a query, each as its values in column order.
+QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta);
+
 // A throwaway installation for a test: a temporary program folder holding an empty main
 // database ("velandria.db") and reports database ("informes.db") with the schema, a
 // "productos.ini" that maps "velandria" and "informes" to them, a scripted dialog service and an
@@ -35,7 +38,7 @@ class InstalacionPrueba {
   // Runs statements on the reports database.
   void ejecutarEnInformes(const QStringList& sentencias);
   // The rows of a query on the main database, each as its values in column order.
-  QList<QVariantList> filas(const QString& consulta);
+  QList<QVariantList> filas(const QString& consulta) { return FilasDe(conexion(), consulta); }
   // The error log's bytes.
   QByteArray log() const;
   // The entries shown on the error form, as (context, description).
