@@ -26,8 +26,9 @@ productos-demo "$obra/demo" > /dev/null
 PRODUCTOS_CARPETA="$obra/demo" PRODUCTOS_CAPTURAS="$obra/capturas" QT_QPA_PLATFORM=offscreen \
   productos 2> "$obra/errores.txt" || { cat "$obra/errores.txt" >&2; falta=1; }
 capturas=$(find "$obra/capturas" -name '*.png' 2>/dev/null | wc -l)
-if [ "$capturas" -ne 6 ]; then
-  echo "El programa instalado ha escrito $capturas capturas de 6" >&2
+# Every screen of the form and both dialogs: ten pictures.
+if [ "$capturas" -lt 10 ]; then
+  echo "El programa instalado ha escrito solo $capturas capturas de 10" >&2
   falta=1
 fi
 if [ -s "$obra/demo/Errores.log" ]; then
