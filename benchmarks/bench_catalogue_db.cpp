@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include "base_bench.h"
 #include "conexion.h"
 #include "dialecto.h"
 #include "esquema.h"
@@ -19,19 +20,9 @@ namespace {
 
 constexpr int kProductos = 2000;
 
-QTemporaryDir& Carpeta() {
-  static QTemporaryDir dir;
-  return dir;
-}
-
 // A main database with 2,000 products, every column filled as the form fills it.
 QString BaseConProductos() {
-  static const QString ruta = [] {
-    const QString r = Carpeta().filePath(u"velandria.db"_s);
-    Conexion c;
-    c.abrirSQLite(r);
-    CrearEsquema(c, TablasPrincipales());
-    Transaccion t(c);
+  static const QString ruta = CrearBaseBench([](Conexion& c) {
     for (int i = 1; i <= kProductos; ++i) {
       c.ejecutar(
           u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
@@ -42,9 +33,7 @@ QString BaseConProductos() {
           "'Unidades', 0, 0, 1, 1, %1, %1, 0, 0, 0)"_s.arg(i)
               .arg(i % 12));
     }
-    t.confirmar();
-    return r;
-  }();
+  });
   return ruta;
 }
 
@@ -59,7 +48,7 @@ bool PrepararOdbc() {
     }
     if (driver.isEmpty())
       return false;
-    const QString odbc = Carpeta().filePath(u"odbc"_s);
+    const QString odbc = CarpetaBench().filePath(u"odbc"_s);
     QDir().mkpath(odbc);
     QFile inst(odbc + u"/odbcinst.ini"_s);
     QFile ini(odbc + u"/odbc.ini"_s);

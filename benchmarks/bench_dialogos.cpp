@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "base_bench.h"
 #include "busqueda_productos.h"
 #include "dialecto.h"
 #include "dialogos_guion.h"
@@ -41,20 +42,10 @@ QString Nombre(std::mt19937& rng) {
   return s + u" "_s + QString::number(rng() % 1000);
 }
 
-QTemporaryDir& Carpeta() {
-  static QTemporaryDir dir;
-  return dir;
-}
-
 // The catalogue: live products without pictures in twelve families shown on the till, one in ten
 // elaborated.
 QString Base() {
-  static const QString ruta = [] {
-    const QString r = Carpeta().filePath(u"velandria.db"_s);
-    Conexion c;
-    c.abrirSQLite(r);
-    CrearEsquema(c, TablasPrincipales());
-    Transaccion t(c);
+  static const QString ruta = CrearBaseBench([](Conexion& c) {
     std::mt19937 rng(42);
     for (int i = 1; i <= kProductos; ++i) {
       c.ejecutar(
@@ -76,15 +67,13 @@ QString Base() {
           u"insert into seccion (codigo, nombre, borrar, menu, orden, mostrarencaja) "
           "values ('%1', 'Familia %1', 0, 0, %1, 0)"_s.arg(f));
     }
-    t.confirmar();
-    return r;
-  }();
+  });
   return ruta;
 }
 
 struct Programa {
   DialogosGuion dialogos;
-  Entorno entorno{Instalacion::Cargar(Carpeta().path()), dialogos};
+  Entorno entorno{Instalacion::Cargar(CarpetaBench().path()), dialogos};
   TablasPanel tablas;
   Programa() {
     entorno.ConexionBD->abrirSQLite(Base());

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
+#include "base_bench.h"
 #include "conexion.h"
 #include "dialogos_guion.h"
 #include "entorno.h"
@@ -23,18 +24,8 @@ constexpr int kProductos = 10000;
 // An elaborated product in the middle of the catalogue, and the one whose recipe is saved.
 constexpr int kElaborado = 5000;
 
-QTemporaryDir& Carpeta() {
-  static QTemporaryDir dir;
-  return dir;
-}
-
 QString Base() {
-  static const QString ruta = [] {
-    const QString r = Carpeta().filePath(u"velandria.db"_s);
-    Conexion c;
-    c.abrirSQLite(r);
-    CrearEsquema(c, TablasPrincipales());
-    Transaccion t(c);
+  static const QString ruta = CrearBaseBench([](Conexion& c) {
     for (int i = 1; i <= kProductos; ++i) {
       c.ejecutar(
           u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
@@ -50,9 +41,7 @@ QString Base() {
             u"insert into productoElaborado_producto values ('%1', '%2', 1)"_s.arg(i).arg(i - k));
       }
     }
-    t.confirmar();
-    return r;
-  }();
+  });
   return ruta;
 }
 
@@ -123,7 +112,7 @@ ElaboradoFormulario Sangria() {
 void BM_GrabarReceta5Lineas(benchmark::State& estado) {
   DialogosGuion dialogos;
   Instalacion instalacion;
-  instalacion.carpetaPrograma = Carpeta().path();
+  instalacion.carpetaPrograma = CarpetaBench().path();
   Entorno entorno(instalacion, dialogos);
   entorno.ConexionBD->abrirSQLite(Base());
   const ElaboradoFormulario sangria = Sangria();
