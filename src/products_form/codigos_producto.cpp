@@ -103,11 +103,22 @@ std::optional<QString> ValorMensajeNumero(Entorno& entorno, int tipoProducto) {
   }
 }
 
+bool ExisteNombre(Conexion& conexion, const QString& nombre, qint64 codigo) {
+  Recordset rs(conexion, u"Select * from productos where nombre = '"_s + nombre +
+                             u"' and codigo <> '"_s + QString::number(codigo) +
+                             u"' and borrar = 0"_s);
+  const bool hay = rs.recordCount() > 0;
+  rs.close();
+  return hay;
+}
+
 bool bcomprobarSiExisteNombre(Entorno& entorno, const QString& nombre, qint64 codigo) {
-  return HayFilas(entorno,
-                  u"Select * from productos where nombre = '"_s + nombre + u"' and codigo <> '"_s +
-                      QString::number(codigo) + u"' and borrar = 0"_s,
-                  kContextoExisteNombre);
+  try {
+    return ExisteNombre(*entorno.ConexionBD, nombre, codigo);
+  } catch (const ErrorBD& e) {
+    entorno.RegistrarError(kContextoExisteNombre, e.descripcion());
+    return false;
+  }
 }
 
 ComprobacionDescNumerica bcomprobarSiExisteDescNumerica(Entorno& entorno, const QString& numero,

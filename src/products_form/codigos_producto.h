@@ -48,7 +48,10 @@ std::optional<QString> ValorPonerOrden(Entorno& entorno);
 // no live product shown on the till, else the largest plus one. Nothing on failure (logged).
 std::optional<QString> ValorMensajeNumero(Entorno& entorno, int tipoProducto);
 
-// Whether another live product bears the name. A failure is logged and answers false.
+// Whether another live product bears the name. Throws ErrorBD when the statement cannot run:
+// the name is written into it as typed, and a quote breaks it.
+bool ExisteNombre(Conexion& conexion, const QString& nombre, qint64 codigo);
+// The same for the form: a failure is logged and answers false.
 bool bcomprobarSiExisteNombre(Entorno& entorno, const QString& nombre, qint64 codigo);
 
 struct ComprobacionDescNumerica {

@@ -349,7 +349,7 @@ bool Elaborados::bComprobarCamposObligatoriosProdElab() {
     return false;
   }
   try {
-    if (NombreEnUso(*entorno_.ConexionBD, nombre, estado_.codigoActual)) {
+    if (ExisteNombre(*entorno_.ConexionBD, nombre, estado_.codigoActual)) {
       alta_.mensajenombre(2);
       return false;
     }

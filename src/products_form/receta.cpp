@@ -173,15 +173,6 @@ QString UnidadDeProducto(Conexion& conexion, qint64 codigo) {
   return unidad;
 }
 
-bool NombreEnUso(Conexion& conexion, const QString& nombre, qint64 codigo) {
-  Recordset rs(conexion, u"Select * from productos where nombre = '"_s + nombre +
-                             u"' and codigo <> '"_s + QString::number(codigo) +
-                             u"' and borrar = 0"_s);
-  const bool hay = rs.recordCount() > 0;
-  rs.close();
-  return hay;
-}
-
 void borrarIngredientes(Conexion& conexion, qint64 codigo) {
   Recordset rs(conexion, u" select * from productoElaborado_producto where productopadre = '"_s +
                              QString::number(codigo) + u"'"_s);

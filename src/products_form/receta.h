@@ -50,10 +50,6 @@ QStringList CargarIngredientes(Conexion& conexion, const QString& codigo);
 // The unit of measure of a product, as stored; empty when it has none. Throws ErrorBD.
 QString UnidadDeProducto(Conexion& conexion, qint64 codigo);
 
-// Whether another live product bears the name. Throws ErrorBD when the statement cannot run:
-// the name is written into it as typed, and a quote breaks it.
-bool NombreEnUso(Conexion& conexion, const QString& nombre, qint64 codigo);
-
 // Deletes the recipe rows of a product, one by one. Throws ErrorBD.
 void borrarIngredientes(Conexion& conexion, qint64 codigo);
 // Writes one recipe row per component line, first to last. Throws ErrorBD when a line cannot
