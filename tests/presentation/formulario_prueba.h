@@ -12,7 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QWidget>
+#include <QtTest>
 #include <memory>
 
 namespace prueba {
@@ -20,32 +20,15 @@ namespace prueba {
 using namespace Qt::Literals::StringLiterals;
 
 template <typename T>
-T* Crear(QWidget* padre, const QString& nombre, QRect geometria) {
+T* Crear(QWidget* padre, const QString& nombre, QRect geometria, const QString& texto = {}) {
   auto* w = new T(padre);
   w->setObjectName(nombre);
   w->setGeometry(geometria);
+  if constexpr (std::is_base_of_v<QGroupBox, T>)
+    w->setTitle(texto);
+  else if constexpr (requires { w->setText(texto); })
+    w->setText(texto);
   return w;
-}
-
-inline QGroupBox* Marco(QWidget* padre, const QString& nombre, const QString& titulo,
-                        QRect geometria) {
-  auto* g = Crear<QGroupBox>(padre, nombre, geometria);
-  g->setTitle(titulo);
-  return g;
-}
-
-inline QPushButton* Boton(QWidget* padre, const QString& nombre, const QString& caption,
-                          QRect geometria) {
-  auto* b = Crear<QPushButton>(padre, nombre, geometria);
-  b->setText(caption);
-  return b;
-}
-
-inline QLabel* Etiqueta(QWidget* padre, const QString& nombre, const QString& caption,
-                        QRect geometria) {
-  auto* l = Crear<QLabel>(padre, nombre, geometria);
-  l->setText(caption);
-  return l;
 }
 
 inline std::unique_ptr<QWidget> FormularioPrueba() {
@@ -57,26 +40,24 @@ inline std::unique_ptr<QWidget> FormularioPrueba() {
   letra.setPointSize(12);
   f->setFont(letra);
 
-  auto* general = Marco(f.get(), u"fr_ProductoGenerico"_s, u"Producto"_s, {10, 10, 600, 500});
-  Etiqueta(general, u"lbl_nombre"_s, u"Nombre"_s, {20, 40, 120, 30});
-  Crear<QLineEdit>(general, u"txt_nombre"_s, {150, 40, 300, 30})->setText(u"Caña de cerveza"_s);
-  Etiqueta(general, u"lbl_coste"_s, u"Coste"_s, {20, 80, 120, 30});
-  Crear<QLineEdit>(general, u"txt_coste"_s, {150, 80, 120, 30})->setText(u"1,25"_s);
-  auto* medida = Crear<QComboBox>(general, u"cbo_Medida"_s, {300, 80, 150, 30});
-  medida->addItems({u"Unidades"_s, u"Kilogramos"_s, u"Litros"_s});
-  Crear<QCheckBox>(general, u"ch_Mostrar"_s, {20, 120, 250, 30})->setText(u"Mostrar en caja"_s);
+  auto* general =
+      Crear<QGroupBox>(f.get(), u"fr_ProductoGenerico"_s, {10, 10, 600, 500}, u"Producto"_s);
+  Crear<QLabel>(general, u"lbl_nombre"_s, {20, 40, 120, 30}, u"Nombre"_s);
+  Crear<QLineEdit>(general, u"txt_nombre"_s, {150, 40, 300, 30}, u"Caña de cerveza"_s);
+  Crear<QLabel>(general, u"lbl_coste"_s, {20, 80, 120, 30}, u"Coste"_s);
+  Crear<QLineEdit>(general, u"txt_coste"_s, {150, 80, 120, 30}, u"1,25"_s);
+  Crear<QComboBox>(general, u"cbo_Medida"_s, {300, 80, 150, 30})->addItems({u"Unidades"_s});
+  Crear<QCheckBox>(general, u"ch_Mostrar"_s, {20, 120, 250, 30}, u"Mostrar en caja"_s);
+  auto* importes = Crear<QGroupBox>(general, u"fr_Importes"_s, {20, 160, 560, 320}, u"Importes"_s);
+  Crear<QLabel>(importes, u"lbl_precio"_s, {20, 40, 200, 30}, u"Precio de venta"_s);
+  auto* detalle = Crear<QGroupBox>(importes, u"fr_Detalle"_s, {20, 80, 520, 220}, u"Detalle"_s);
+  Crear<QLabel>(detalle, u"lbl_iva"_s, {20, 40, 150, 30}, u"Impuesto"_s);
+  auto* hondo = Crear<QGroupBox>(detalle, u"fr_Hondo"_s, {20, 80, 230, 120}, u"Margen"_s);
+  Crear<QLabel>(hondo, u"lbl_margen"_s, {10, 40, 210, 30}, u"Margen comercial"_s);
+  auto* zoom = Crear<QGroupBox>(detalle, u"fr_Zoom2"_s, {270, 80, 230, 120});
+  Crear<QLabel>(zoom, u"lbl_zoom"_s, {10, 40, 200, 30}, u"Ampliado"_s);
 
-  auto* importes = Marco(general, u"fr_Importes"_s, u"Importes"_s, {20, 160, 560, 320});
-  Etiqueta(importes, u"lbl_precio"_s, u"Precio de venta"_s, {20, 40, 200, 30});
-  auto* detalle = Marco(importes, u"fr_Detalle"_s, u"Detalle"_s, {20, 80, 520, 220});
-  Etiqueta(detalle, u"lbl_iva"_s, u"Impuesto"_s, {20, 40, 150, 30});
-  auto* hondo = Marco(detalle, u"fr_Hondo"_s, u"Margen"_s, {20, 80, 230, 120});
-  Etiqueta(hondo, u"lbl_margen"_s, u"Margen comercial"_s, {10, 40, 210, 30});
-  auto* zoom = Marco(detalle, u"fr_Zoom2"_s, QString(), {270, 80, 230, 120});
-  Etiqueta(zoom, u"lbl_zoom"_s, u"Ampliado"_s, {10, 40, 200, 30});
-
-  auto* lista = Crear<QListWidget>(f.get(), u"lstProductos"_s, {620, 10, 390, 200});
-  lista->addItems({u"Agua mineral"_s, u"Bocadillo de jamón"_s, u"Café con leche"_s});
+  Crear<QListWidget>(f.get(), u"lstProductos"_s, {620, 10, 390, 200})->addItem(u"Agua"_s);
   auto* rejilla = Crear<QTableWidget>(f.get(), u"grdIngredientes"_s, {620, 220, 390, 290});
   rejilla->setColumnCount(2);
   rejilla->setRowCount(3);
@@ -85,24 +66,23 @@ inline std::unique_ptr<QWidget> FormularioPrueba() {
   rejilla->setColumnWidth(1, 120);
   for (int r = 0; r < 3; ++r)
     rejilla->setRowHeight(r, 40);
-  rejilla->setItem(0, 0, new QTableWidgetItem(u"Harina"_s));
-  rejilla->setItem(0, 1, new QTableWidgetItem(u"0,25"_s));
 
   Crear<QGroupBox>(f.get(), u"fr_SeparacionH1"_s, {10, 520, 1000, 8});
-  auto* botones = Marco(f.get(), u"frBotones"_s, QString(), {10, 540, 1000, 210});
-  Boton(botones, u"cmd_nuevo"_s, u"Nuevo"_s, {20, 30, 180, 70});
-  Boton(botones, u"cmd_modificar"_s, u"Modificar"_s, {210, 30, 180, 70});
-  Boton(botones, u"cmd_eliminar"_s, u"Eliminar"_s, {400, 30, 180, 70});
-  Boton(botones, u"cmd_salir"_s, u"Salir"_s, {590, 30, 180, 70});
-  Etiqueta(botones, u"lbl_eliminar"_s, u"Borra el producto"_s, {400, 110, 300, 30});
+  auto* botones = Crear<QGroupBox>(f.get(), u"frBotones"_s, {10, 540, 1000, 210});
+  Crear<QPushButton>(botones, u"cmd_nuevo"_s, {20, 30, 180, 70}, u"Nuevo"_s);
+  Crear<QPushButton>(botones, u"cmd_modificar"_s, {210, 30, 180, 70}, u"Modificar"_s);
+  Crear<QPushButton>(botones, u"cmd_eliminar"_s, {400, 30, 180, 70}, u"Eliminar"_s);
+  Crear<QPushButton>(botones, u"cmd_salir"_s, {590, 30, 180, 70}, u"Salir"_s);
+  Crear<QLabel>(botones, u"lbl_eliminar"_s, {400, 110, 300, 30}, u"Borra el producto"_s);
   return f;
 }
 
-// Where the tests leave their pictures of the forms, to be looked at.
-inline QString CarpetaCapturas() {
+// Shows the form and leaves its picture in the temporary folder, to be looked at.
+inline void Capturar(QWidget* f, const QString& archivo) {
+  f->show();
+  QVERIFY(QTest::qWaitForWindowExposed(f));
   const QString carpeta = QDir::temp().filePath(u"productos-capturas-presentacion"_s);
-  QDir().mkpath(carpeta);
-  return carpeta;
+  QVERIFY(QDir().mkpath(carpeta) && f->grab().save(QDir(carpeta).filePath(archivo)));
 }
 
 }  // namespace prueba
