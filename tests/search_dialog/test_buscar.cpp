@@ -60,8 +60,6 @@ class TestBuscar : public QObject {
         u" and codigo not in (select productopadre from "
         "productoelaborado_producto)"_s;
     QTest::newRow("todo") << u"Pr"_s << CriteriosBusqueda{} << simples << u"1 2 5"_s;
-    QTest::newRow("nombre") << u"Pr"_s << CriteriosBusqueda{.nombre = u"ca"_s}
-                            << u" and Nombre like 'ca%'"_s + simples << u"1 2"_s;
     QTest::newRow("proveedor y familia")
         << u"Pr"_s << CriteriosBusqueda{.proveedor = u"Caf"_s, .familia = u"beb"_s}
         << u" and Proveedor in (select codigo from proveedores where nombre like 'Caf%') and "
