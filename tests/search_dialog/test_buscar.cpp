@@ -28,11 +28,6 @@ QStringList Catalogo() {
   };
 }
 
-// Clicks a button of the search dialog.
-void PulsarEn(QWidget* dialogo, const QString& nombre) {
-  QTest::mouseClick(dialogo->findChild<QPushButton*>(nombre), Qt::LeftButton);
-}
-
 }  // namespace
 
 // Finding a product among many: the query that the boxes make, the products it finds on each
@@ -101,6 +96,9 @@ class TestBuscar : public QObject {
     Pulsar(f, u"cmd_ProdGenerico"_s);
     Pulsar(f, u"cmd_buscar"_s);
     QPointer<Buscar> buscar = f.forma().findChild<Buscar*>();
+    const auto PulsarEn = [&](QWidget* dialogo, const QString& nombre) {
+      QTest::mouseClick(dialogo->findChild<QPushButton*>(nombre), Qt::LeftButton);
+    };
     QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Café con leche"_s);
     QVERIFY(buscar && buscar->isVisible() && buscar->isModal());
     // A quote breaks the query: it is logged and nothing is listed.
