@@ -1,18 +1,21 @@
+#include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
-#include <QPushButton>
+#include <QTableWidget>
 #include <QtTest>
 
 #include "buscar.h"
 #include "formulario_prueba.h"
+#include "frm_add_subproductos.h"
 #include "postgres_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QStringList Catalogo() {
+QStringList CatalogoBuscar() {
   return {
       u"insert into proveedores (codigo, nombre, borrar) values ('P2', 'Cafés Norte', 0)"_s,
       u"insert into seccion (codigo, nombre, borrar, menu) values ('F1', 'Bebidas', 0, 0)"_s,
@@ -28,11 +31,49 @@ QStringList Catalogo() {
   };
 }
 
+QStringList CatalogoSubproductos() {
+  QStringList filas = {
+      u"insert into seccion (codigo, nombre, borrar, menu, orden) values ('F1', 'Cafés', 0, 0, "
+      "1), ('F2', 'Vacía', 0, 0, 2)"_s,
+      u"insert into subproductos (CodProductoPadre, CodProductoHijo) values ('1', '5'), "
+      "('9', '1')"_s};
+  for (int i = 1; i <= 6; ++i) {  // the last code, unquoted in the links' insert, breaks it
+    filas.append(Producto(i < 6 ? QString::number(i) : u"6x"_s, u"P%1"_s.arg(i),
+                          {{u"seccion"_s, u"'F1'"_s}, {u"orden"_s, QString::number(i)}}));
+  }
+  return filas;
+}
+
+// Clicks a dialog's button; with a panel, the panel's nth button.
+void Clic(QWidget* dialogo, const QString& nombre, int boton = 0) {
+  if (boton)
+    dialogo = dialogo->findChild<QWidget*>(nombre);
+  QTest::mouseClick(dialogo->findChild<QAbstractButton*>(boton ? u"boton_%1"_s.arg(boton) : nombre),
+                    Qt::LeftButton);
+}
+
+// The codes in the grid, and the links written, "parent>child" in order.
+QString Grid(QWidget* dialogo) {
+  auto* grid = dialogo->findChild<QTableWidget*>(u"gridProd"_s);
+  QStringList codigos;
+  for (int fila = 0; fila < grid->rowCount(); ++fila)
+    codigos.append(grid->item(fila, 1)->text());
+  return codigos.join(u' ');
+}
+QString Enlaces(InstalacionPrueba& inst) {
+  QStringList r;
+  for (const QVariantList& fila :
+       inst.filas(u"select CodProductoPadre, CodProductoHijo from subproductos order by 1, 2"_s))
+    r.append(fila.at(0).toString() + u">"_s + fila.at(1).toString());
+  return r.join(u' ');
+}
+
 }  // namespace
 
-// Finding a product among many: the query that the boxes make, the products it finds on each
-// engine, and the dialog handing the chosen product to the products form.
-class TestBuscar : public QObject {
+// Finding a product among many, and linking the products the till offers with a parent: the
+// query the boxes make, what it finds and the links written on each engine, and the dialogs
+// handing back to the products form.
+class TestDialogos : public QObject {
   Q_OBJECT
   std::unique_ptr<PostgresPrueba> pg_;
   InstalacionPrueba sqlite_;
@@ -40,10 +81,10 @@ class TestBuscar : public QObject {
 
  private slots:
   void initTestCase() {
-    sqlite_.ejecutar(Catalogo());
+    sqlite_.ejecutar(CatalogoBuscar());
     pg_ = std::make_unique<PostgresPrueba>();
     QVERIFY2(postgres_.usarPostgres(*pg_, u"busqueda"_s), qPrintable(pg_->error()));
-    postgres_.ejecutar(Catalogo());
+    postgres_.ejecutar(CatalogoBuscar());
   }
 
   void encuentra_data() {
@@ -91,14 +132,11 @@ class TestBuscar : public QObject {
   }
 
   void eligeMuestraYCerrarNoCambia() {
-    FormularioPrueba f(Catalogo());
+    FormularioPrueba f(CatalogoBuscar());
     QVERIFY(f.mostrar());
     Pulsar(f, u"cmd_ProdGenerico"_s);
     Pulsar(f, u"cmd_buscar"_s);
     QPointer<Buscar> buscar = f.forma().findChild<Buscar*>();
-    const auto PulsarEn = [&](QWidget* dialogo, const QString& nombre) {
-      QTest::mouseClick(dialogo->findChild<QPushButton*>(nombre), Qt::LeftButton);
-    };
     QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Café con leche"_s);
     QVERIFY(buscar && buscar->isVisible() && buscar->isModal());
     // A quote breaks the query: it is logged and nothing is listed.
@@ -108,12 +146,12 @@ class TestBuscar : public QObject {
     auto* lista = buscar->findChild<QListWidget*>(u"lst_resultado"_s);
     QCOMPARE(lista->count(), 0);
     QVERIFY(f.inst().log().startsWith("Buscar  1, Descripcion: "));
-    PulsarEn(buscar, u"BtnBusClie_1"_s);
+    Clic(buscar, u"BtnBusClie_1"_s);
     // "C", "A", "X", Backspace and Enter, on the dialog's own keyboard, into the name box.
     for (const int tecla : {67, 65, 88, 8, 13})
-      PulsarEn(buscar, u"bt_letra_%1"_s.arg(tecla));
+      Clic(buscar, u"bt_letra_%1"_s.arg(tecla));
     QCOMPARE(nombre->text(), u"CA"_s);
-    PulsarEn(buscar, u"BtnBusClie_0"_s);
+    Clic(buscar, u"BtnBusClie_0"_s);
     const QList<QListWidgetItem*> solo = lista->findItems(u"Café solo"_s, Qt::MatchStartsWith);
     QCOMPARE(lista->count(), 2);
     QCOMPARE(solo.first()->text(), u"Café solo"_s + QString(130, u' ') + u"1"_s);
@@ -124,13 +162,73 @@ class TestBuscar : public QObject {
     // Closing hands "-1": the form keeps the product it shows.
     Pulsar(f, u"cmd_buscar"_s);
     QVERIFY((buscar = f.forma().findChild<Buscar*>()));
-    PulsarEn(buscar, u"BtnBusClie_2"_s);
+    Clic(buscar, u"BtnBusClie_2"_s);
     QTRY_VERIFY(!buscar || !buscar->isVisible());
     QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Café solo"_s);
     QCOMPARE(f.forma().estado().codigoActual, 1);
     QCOMPARE(f.inst().erroresMostrados().size(), 1);
   }
+
+  void enlazaSubproductos_data() {
+    QTest::addColumn<bool>("postgres");
+    QTest::newRow("sqlite, quitar con Supr") << false;
+    QTest::newRow("postgresql, quitar con el botón") << true;
+  }
+  void enlazaSubproductos() {
+    QFETCH(bool, postgres);
+    InstalacionPrueba inst;
+    if (postgres)
+      QVERIFY2(inst.usarPostgres(*pg_, u"subproductos"_s), qPrintable(pg_->error()));
+    TablasPanel tablas;
+    // With no family there is no family without products to tell of.
+    std::unique_ptr<QDialog> d(AbrirSubproductos(inst.entorno(), tablas, nullptr));
+    QVERIFY(d->findChild<QWidget*>(u"frPanelVacio"_s)->isHidden());
+    inst.ejecutar(CatalogoSubproductos());
+    d.reset(AbrirSubproductos(inst.entorno(), tablas, nullptr));
+    for (const int boton : {1, 2, 3, 4, 3})
+      Clic(d.get(), u"PanelPrimeros"_s, boton);
+    QCOMPARE(Grid(d.get()), u"5 2 3 4"_s);
+    auto* grid = d->findChild<QTableWidget*>(u"gridProd"_s);
+    grid->setCurrentCell(0, 0);
+    if (postgres)
+      Clic(d.get(), u"cmdQuitar"_s);
+    else
+      QTest::keyClick(grid, Qt::Key_Delete);
+    QCOMPARE(Grid(d.get()), u"2 3 4"_s);
+    Clic(d.get(), u"cmd_AceptarFin"_s);
+    QCOMPARE(Enlaces(inst), u"1>2 1>3 1>4 9>1"_s);
+    QCOMPARE(inst.dialogos().mensajes(),
+             QStringList{u"Ha terminado de incluir subproductos al producto P1"_s});
+    QCOMPARE(inst.dialogos().llamadas().last().titulo, u"Añadir Sub-Productos"_s);
+    QVERIFY(!inst.log().contains("SubProductos  "));
+    // Touching the parent's picture starts over: the next product touched is the new parent.
+    QTest::mouseClick(d->findChild<QLabel*>(u"imgDiseño"_s), Qt::LeftButton);
+    Clic(d.get(), u"PanelPrimeros"_s, 5);
+    QCOMPARE(d->findChild<QLabel*>(u"lblDiseño"_s)->text(), u"P5"_s);
+    QCOMPARE(Grid(d.get()), QString());
+    Clic(d.get(), u"PanelFamilias"_s, 2);
+    QVERIFY(!d->findChild<QWidget*>(u"frPanelVacio"_s)->isHidden());
+  }
+
+  void desdeElFormularioUnFalloConservaLosEnlacesYCerrarNoEscribe() {
+    FormularioPrueba f(CatalogoSubproductos());
+    QVERIFY(f.mostrar());
+    Pulsar(f, u"cmd_ProdElaborado"_s);
+    Pulsar(f, u"Command4"_s);
+    auto* d = f.forma().findChild<FrmAddSubProductos*>();
+    QVERIFY(d && d->isVisible() && d->isModal());
+    QCOMPARE(d->findChild<QLabel*>(u"lblnomFamilia"_s)->text(), u"Cafés"_s);
+    for (const int boton : {1, 2, 6})
+      Clic(d, u"PanelPrimeros"_s, boton);
+    Clic(d, u"cmd_AceptarFin"_s);
+    QCOMPARE(Enlaces(f.inst()), u"1>5 9>1"_s);
+    QVERIFY(f.dialogos().mensajes().isEmpty());
+    QVERIFY(f.inst().log().contains("SubProductos  2, Descripcion: "));
+    Clic(d, u"cmd_CancelarFin"_s);
+    QTRY_VERIFY(!f.forma().findChild<FrmAddSubProductos*>());
+    QCOMPARE(Enlaces(f.inst()), u"1>5 9>1"_s);
+  }
 };
 
-PRODUCTOS_TEST_MAIN(TestBuscar)
-#include "test_buscar.moc"
+PRODUCTOS_TEST_MAIN(TestDialogos)
+#include "test_dialogos.moc"
