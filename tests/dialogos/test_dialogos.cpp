@@ -27,8 +27,7 @@ QStringList CatalogoBuscar() {
       u"insert into productoelaborado_producto (productopadre, productohijo, cantidad) "
       "values ('3', '1', 1)"_s,
       Producto(u"4"_s, u"Caña"_s, {{u"borrar"_s, u"-1"_s}}),
-      Producto(u"5"_s, u"Vino tinto"_s, {{u"seccion"_s, u"'F1'"_s}}),
-  };
+      Producto(u"5"_s, u"Vino tinto"_s, {{u"seccion"_s, u"'F1'"_s}})};
 }
 
 QStringList CatalogoSubproductos() {

@@ -30,10 +30,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A form laid out as the suite's forms are, at 1024×768 with absolute positions: frames nested
-// three deep, the zoom and separator frames, buttons, labels, entries, a check box and a grid.
-// Each line: kind (Frame, Label, Entry, Combo, Check, List, Table, Button), name, parent, x y w h,
-// caption.
+// A form as the suite's are, at 1024×768, frames nested three deep. Line: kind (Frame, Label,
+// Entry, Combo, checK, list (W), Table, Button), name, parent, x y w h, caption.
 std::unique_ptr<QWidget> FormularioPrueba() {
   auto f = std::make_unique<QWidget>();
   f->setObjectName(u"frmPrueba"_s);
@@ -94,9 +92,12 @@ const QString kNoche =
     u"14805995|5258290|3942440|5911110|2649800|14805995|2629150|3947610|3955260|5913660|3955290|"
     "2649800|56575|5263615"_s;
 
-QString Traduccion(const QString& caption, const QString& traduccion = u"null"_s) {
-  return u"insert into traducciones (caption, traduccion) values ('%1', %2)"_s.arg(caption,
-                                                                                   traduccion);
+// "caption=translation|..." as rows of traducciones, the translation written as in SQL.
+QString Traducciones(const QString& filas) {
+  QStringList v;
+  for (const QString& f : filas.split(u'|'))
+    v.append(u"('%1', %2)"_s.arg(f.section(u'=', 0, 0), f.section(u'=', 1)));
+  return u"insert into traducciones (caption, traduccion) values "_s + v.join(u", "_s);
 }
 
 // Panel entries written "descNumerica|colorFondo|imagen|nombre|colorMarca|codigo;...", where "@"
@@ -120,9 +121,8 @@ const TablaPanel kCentinela = Entradas(u"9|16777215||Sin tocar||999"_s);
 
 }  // namespace
 
-// What every form goes through as it loads (its captions translated and gathered, scaled to the
-// screen, painted with the terminal's scheme, the employee's permissions), the regional
-// settings, and the touch panel of families and products.
+// What every form goes through as it loads (translated, gathered, scaled, painted, restricted),
+// the regional settings, and the touch panel of families and products.
 class TestPresentacion : public QObject {
   Q_OBJECT
 
@@ -203,13 +203,11 @@ class TestPresentacion : public QObject {
   }
 
   void traduceBotonesEtiquetasYMarcos() {
-    inst().ejecutar({Traduccion(u"Nuevo"_s, u"'New'"_s), Traduccion(u"MODIFICAR"_s),
-                     Traduccion(u"Eliminar"_s, u"''"_s), Traduccion(u"salir"_s, u"'Exit'"_s),
-                     Traduccion(u"Producto"_s, u"'Product'"_s),
-                     Traduccion(u"Nombre"_s, u"'Name'"_s),
-                     Traduccion(u"Mostrar en caja"_s, u"'Show'"_s), Traduccion({}, u"'Vacío'"_s)});
+    inst().ejecutar(
+        {Traducciones(u"Nuevo='New'|MODIFICAR=null|Eliminar=''|salir='Exit'|Producto="
+                      "'Product'|Nombre='Name'|Mostrar en caja='Show'|='Vacío'"_s)});
     TraducirFormulario(entorno(), f.get());
-    // Without a translation, the table's own caption as it is written there; check boxes stay.
+    // Without a translation, the table's own caption as written there; check boxes stay.
     QStringList vistos;
     for (const QString& n :
          u"cmd_nuevo cmd_modificar cmd_eliminar cmd_salir fr_ProductoGenerico "
@@ -217,8 +215,7 @@ class TestPresentacion : public QObject {
       vistos.append(CaptionDe(hijo(n)));
     QCOMPARE(vistos.join(u'|'), u"New|MODIFICAR|Eliminar|Exit|Product|Name|Coste|"_s);
     QCOMPARE(qobject_cast<QCheckBox*>(hijo(u"ch_Mostrar"_s))->text(), u"Mostrar en caja"_s);
-    QCOMPARE(filas(u"select count(*) from traducciones"_s),
-             u"8"_s);  // translating is not gathering
+    QCOMPARE(filas(u"select count(*) from traducciones"_s), u"8"_s);  // not gathered
   }
 
   void registraLosCaptionsUnaVezPorFormulario_data() {
@@ -240,7 +237,7 @@ class TestPresentacion : public QObject {
     entorno().instalacion.configuracion =
         ArchivoIni::DesdeTexto(u"[traduccion]\nexcluir=dulvore|Rúa do Porto\n"_s);
     PonerCaption(hijo(u"lbl_eliminar"_s), u"Rúa do Porto, 12"_s);
-    inst().ejecutar({Traduccion(u"Salir"_s, u"'Exit'"_s)});
+    inst().ejecutar({Traducciones(u"Salir='Exit'"_s)});
     AjustarFormulario(entorno(), f.get(), {1024, 768}, QSize(1024, 768));
     // The next load gathers nothing, even a caption that is new; another form is gathered.
     PonerCaption(hijo(u"lbl_coste"_s), u"Coste de compra"_s);
@@ -258,7 +255,7 @@ class TestPresentacion : public QObject {
     QCOMPARE(DebeRegistrarCaptions(entorno(), f.get()), registra);
   }
 
-  void filtraLoQueNoEsUnCaption() {
+  void filtraYRegistraLosCaptions() {
     // Short, an address, a design name, code, fourteen blanks, the brand and the excluded texts.
     const QString fuera =
         u"ab|info@dulvore.es|www.ej.es|Informe|Un FRAME|Label1|&Hecho|txt_nombre|chr$(13)|"
@@ -269,9 +266,7 @@ class TestPresentacion : public QObject {
       AnadirCaption(lista, caption, {u"dul vore"_s, u"Rúa do Porto"_s});
       QCOMPARE(lista, entran.contains(caption) ? u"x#@#"_s + caption + u"#@#"_s : u"x#@#"_s);
     }
-  }
-
-  void registraConApostrofosDobladosYCortaA255() {
+    // Registered once, with quotes doubled, cut at 255.
     const QString largo = QString(254, u'a') + u"'"_s;
     RegistrarCaptions(entorno(),
                       u"L'Hospitalet#@#"_s + largo + u"bbb#@#Uno\r\ndos#@#L'Hospitalet"_s);
@@ -281,10 +276,8 @@ class TestPresentacion : public QObject {
 
   void ajustaElFormularioALaPantalla_data() {
     QTest::addColumn<QSize>("pantalla");
-    // fr_ProductoGenerico, txt_nombre and cmd_nuevo; the grid's columns and row; the loose button's
-    // minimum size; the type.
-    QTest::addColumn<QString>("medidas");
-    // 1280×1024: ×1.25 across, ×4/3 down; 800×600: ×0.78125 both ways, type a little less.
+    // A frame, an entry, a button; the grid's columns and row; the loose button's minimum; type.
+    QTest::addColumn<QString>("medidas");  // 1280×1024: ×1.25 across, ×4/3 down
     QTest::newRow("mayor")
         << QSize(1280, 1024)
         << u"13,13 750x667; 188,53 375x40; 25,40 225x93; 250 150 53; 125x53; 15"_s;
@@ -392,7 +385,13 @@ class TestPresentacion : public QObject {
     QCOMPARE(entorno().sesion.id_color, qint16(predefinido ? 1 : 7));
   }
 
-  void sinEsquemaNoSePintaNada() {
+  void losColoresSeLeenConElRojoAbajoYSinEsquemaNoSePintaNada() {
+    QCOMPARE(ColorDesdeTexto(u" 8421504 "_s), QColor(128, 128, 128));
+    QCOMPARE(ValorDeColor(QColor(0x12, 0x34, 0x56)), qint64(0x563412));
+    QVERIFY(!ColorDesdeTexto(QString()).isValid() && !ColorDesdeTexto(u"rojo"_s).isValid());
+    // &H8000000F, the button face, however the 32 bits arrive.
+    for (const qint64 cara : {0x8000000FLL, -2147483633LL})
+      QCOMPARE(ColorDesdeValor(cara), QApplication::palette().color(QPalette::Button));
     terminal(u"1"_s);
     inst().ejecutar({u"delete from colores"_s});
     const QColor antes = ColorFondo(hijo(u"fr_Importes"_s));
@@ -407,22 +406,17 @@ class TestPresentacion : public QObject {
   }
 
   void lasRestriccionesApaganBotonesYEsconden_data() {
-    QTest::addColumn<int>("empleado");
-    QTest::addColumn<QString>("apagados");
-    QTest::addColumn<QString>("error");
-    // Names ignore letter case; another form's rows and another employee's stay out.
-    QTest::newRow("12") << 12 << u"cmd_modificar cmd_eliminar"_s << QString();
-    QTest::newRow("13") << 13 << u"cmd_nuevo"_s << QString();
-    QTest::newRow("sin restricciones") << 7 << QString() << QString();
-    // Controls the form lacks are named, and the rest are applied all the same.
-    QTest::newRow("controles que faltan")
-        << 5 << u"cmd_nuevo cmd_modificar"_s
-        << u"El formulario frmPrueba no tiene el control cmd_borrado, lbl_no"_s;
+    // "employee|greyed out|error": names ignore case; other forms and employees stay out;
+    // controls the form lacks are named, and the rest are applied all the same.
+    QTest::addColumn<QString>("caso");
+    for (const char* caso : {"12|cmd_modificar cmd_eliminar|", "13|cmd_nuevo|", "7||",
+                             "5|cmd_nuevo cmd_modificar|El formulario frmPrueba no tiene el "
+                             "control cmd_borrado, lbl_no"})
+      QTest::newRow(caso) << QString::fromUtf8(caso);
   }
   void lasRestriccionesApaganBotonesYEsconden() {
-    QFETCH(int, empleado);
-    QFETCH(QString, apagados);
-    QFETCH(QString, error);
+    QFETCH(QString, caso);
+    const QString apagados = caso.section(u'|', 1, 1), error = caso.section(u'|', 2);
     inst().ejecutar(
         {u"insert into atributos values (1, 'frmPrueba', '', 'cmd_eliminar', '', "
          "'lbl_eliminar'), (2, 'frmPrueba', '', 'CMD_MODIFICAR', '', ''), (3, "
@@ -433,7 +427,7 @@ class TestPresentacion : public QObject {
          "(5, 5), (5, 6), (5, 2)"_s});
     capturar(f.get(), u"permisos.png"_s);
     try {
-      AplicarRestricciones(inst().conexion(), f.get(), empleado);
+      AplicarRestricciones(inst().conexion(), f.get(), caso.section(u'|', 0, 0).toInt());
       QVERIFY(error.isEmpty());
     } catch (const ErrorBD& e) {
       QCOMPARE(e.descripcion(), error);
@@ -475,38 +469,33 @@ class TestPresentacion : public QObject {
     QCOMPARE(FiltrarTeclaDecimal(c[0].toInt(), c[1], c[2].toInt(), separador), c[3].toInt());
   }
 
+  void leeYEscribeImportesComoElLocale_data() {
+    QTest::addColumn<QLocale>("locale");
+    // The separators; amounts written; amounts read (in the locale's format or with a point).
+    QTest::addColumn<QString>("vistos");
+    QTest::newRow("es") << QLocale(QLocale::Spanish, QLocale::Spain)
+                        << u", . / ;  | 1.234,50 0,50 -0,50 1.234.567,89 1.000,00 0,00 | 1234.5 "
+                           "-3.25 12 1234.5 no0 no0 no0 no0 no0 1.5 no0"_s;
+    QTest::newRow("en") << QLocale(QLocale::English, QLocale::UnitedStates)
+                        << u". , / ,  | 1,234.50 0.50 -0.50 1,234,567.89 1,000.00 0.00 | no0 no0 "
+                           "no0 1234.5 no0 no0 no0 no0 no0 no0 1234.5"_s;
+  }
   void leeYEscribeImportesComoElLocale() {
-    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
-    QCOMPARE((QStringList{SeparadorDecimal(), LeerLocale(15), LeerLocale(29), LeerLocale(12),
-                          LeerLocale(999)}),
-             (QStringList{u","_s, u"."_s, u"/"_s, u";"_s, QString()}));
-    QStringList vistos;
+    QFETCH(QLocale, locale);
+    QFETCH(QString, vistos);
+    QLocale::setDefault(locale);
+    QStringList r{SeparadorDecimal(), LeerLocale(15),  LeerLocale(29),
+                  LeerLocale(12),     LeerLocale(999), u"|"_s};
     for (const double v : {1234.5, 0.5, -0.5, 1234567.891, 999.999, 0.0})
-      vistos.append(FormatearImporte(v));
-    QCOMPARE(vistos.join(u' '), u"1.234,50 0,50 -0,50 1.234.567,89 1.000,00 0,00"_s);
-    // Read in the locale's format or with a point; anything else is no amount, and 0.
-    vistos.clear();
-    for (const QString& t : u"1.234,50|-3,25|12,| 1234.5 ||abc|1,2,3|1e5|1 000"_s.split(u'|')) {
+      r.append(FormatearImporte(v));
+    r.append(u"|"_s);
+    for (const QString& t :
+         u"1.234,50|-3,25|12,| 1234.5 ||abc|1,2,3|1e5|1 000|1,5|1,234.5"_s.split(u'|')) {
       bool ok = false;
       const double v = ConvertirImporte(t, &ok);
-      vistos.append((ok ? QString() : u"no "_s) + QString::number(v));
+      r.append((ok ? QString() : u"no"_s) + QString::number(v));
     }
-    QCOMPARE(vistos.join(u"; "_s), u"1234.5; -3.25; 12; 1234.5; no 0; no 0; no 0; no 0; no 0"_s);
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    QCOMPARE((QStringList{SeparadorDecimal(), LeerLocale(15), FormatearImporte(-12345.5)}),
-             (QStringList{u"."_s, u","_s, u"-12,345.50"_s}));
-    bool ok = true;
-    QCOMPARE(ConvertirImporte(u"1,234.5"_s), 1234.5);
-    QCOMPARE(ConvertirImporte(u"1,5"_s, &ok) + ok, 0.0);
-  }
-
-  void losColoresSeGuardanConElRojoAbajo() {
-    QCOMPARE(ColorDesdeTexto(u" 8421504 "_s), QColor(128, 128, 128));
-    QCOMPARE(ValorDeColor(QColor(0x12, 0x34, 0x56)), qint64(0x563412));
-    QVERIFY(!ColorDesdeTexto(QString()).isValid() && !ColorDesdeTexto(u"rojo"_s).isValid());
-    // &H8000000F, the button face, however the 32 bits arrive.
-    for (const qint64 cara : {0x8000000FLL, -2147483633LL})
-      QCOMPARE(ColorDesdeValor(cara), QApplication::palette().color(QPalette::Button));
+    QCOMPARE(r.join(u' '), vistos);
   }
 
   void cuentaLasEntradasHastaSeisConLaFechaDeLaPrimera() {
@@ -568,8 +557,8 @@ class TestPresentacion : public QObject {
     QCOMPARE(panel->indice_seleccionado(), 7);
     panel->limpiar();
     QCOMPARE(pagina(), u": "_s);
-    QVERIFY(panel->objetos().isEmpty() && panel->codigo_seleccionado().isEmpty());
-    QCOMPARE(panel->indice_seleccionado(), -1);
+    QVERIFY(panel->objetos().isEmpty() && panel->codigo_seleccionado().isEmpty() &&
+            panel->indice_seleccionado() == -1);
   }
 
   void pintaColoresMarcaEImagen() {
@@ -601,23 +590,21 @@ class TestPresentacion : public QObject {
     for (const QString& nombre : {u"/bebidas.png"_s, u"/vino.png"_s})
       QVERIFY(QFile(fotos + nombre).open(QIODevice::WriteOnly));
     entorno().sesion.rutaFotos = fotos;
-    inst().ejecutar({
-        u"insert into seccion (codigo, nombre, borrar, menu, orden, descNumerica, mostrarencaja, "
-        "Color, Imagen) values ('1', 'Bebidas', 0, 0, 2, 10, 0, 255, 'bebidas.png'), "
-        "('2', 'Cafés', 0, 0, 1, 20, -1, null, 'no_esta.png'), ('3', 'Postres', 0, 0, 3, 30, 0, "
-        "0, null), ('6', 'Tapas', 0, 0, 4, 40, -1, '', ''), ('4', 'Borrada', -1, 0, 0, 0, 0, 1, "
-        "null), ('5', 'Menú', 0, -1, 0, 0, 0, 1, null), ('', 'Vacía', 0, 0, 0, 0, 0, 1, null), "
-        "(null, 'Nula', 0, 0, 0, 0, 0, 1, null)"_s,
-        u"insert into productos (codigo, nombre, seccion, borrar, mostrarencaja, orden, "
-        "DescNumerica, color, foto) values ('10', 'Vino tinto', '1', 0, 0, 2, 5, 65535, "
-        "'vino.png'), ('11', 'Agua', '1', 0, 0, 1, 6, null, null), ('15', 'Zumo', '1', 0, 0, 3, "
-        "7, 0, ''), ('12', 'Oculto', '1', 0, -1, 0, 1, 1, null), ('13', 'Borrado', '1', -1, 0, 0, "
-        "1, 1, null), ('14', 'Café', '2', 0, 0, 0, 9, 16711680, 'no_esta.png')"_s,
-        u"insert into menu_productos (seccion, producto, orden) values ('1', '10', 1), "
-        "('1', '14', 2), ('1', '11', 3), ('1', '12', 3)"_s,
-    });
-    // Live families that are not menus, in panel order; a picture name that is empty tests
-    // the folder itself, which holds a file.
+    inst().ejecutar(
+        {u"insert into seccion (codigo, nombre, borrar, menu, orden, descNumerica, mostrarencaja, "
+         "Color, Imagen) values ('1', 'Bebidas', 0, 0, 2, 10, 0, 255, 'bebidas.png'), "
+         "('2', 'Cafés', 0, 0, 1, 20, -1, null, 'no_esta.png'), ('3', 'Postres', 0, 0, 3, 30, 0, "
+         "0, null), ('6', 'Tapas', 0, 0, 4, 40, -1, '', ''), ('4', 'Borrada', -1, 0, 0, 0, 0, 1, "
+         "null), ('5', 'Menú', 0, -1, 0, 0, 0, 1, null), ('', 'Vacía', 0, 0, 0, 0, 0, 1, null), "
+         "(null, 'Nula', 0, 0, 0, 0, 0, 1, null)"_s,
+         u"insert into productos (codigo, nombre, seccion, borrar, mostrarencaja, orden, "
+         "DescNumerica, color, foto) values ('10', 'Vino tinto', '1', 0, 0, 2, 5, 65535, "
+         "'vino.png'), ('11', 'Agua', '1', 0, 0, 1, 6, null, null), ('15', 'Zumo', '1', 0, 0, 3, "
+         "7, 0, ''), ('12', 'Oculto', '1', 0, -1, 0, 1, 1, null), ('13', 'Borrado', '1', -1, 0, 0, "
+         "1, 1, null), ('14', 'Café', '2', 0, 0, 0, 9, 16711680, 'no_esta.png')"_s,
+         u"insert into menu_productos (seccion, producto, orden) values ('1', '10', 1), "
+         "('1', '14', 2), ('1', '11', 3), ('1', '12', 3)"_s});
+    // Live families that are not menus, in panel order; an empty picture name is the folder.
     TablasPanel tablas;
     tablas.paginaA = kCentinela;
     CargarFamilias(entorno(), tablas);
