@@ -24,7 +24,7 @@ class MotoresPrueba {
   ~MotoresPrueba();
 
   // The main database's connection string, exactly as the program gives it.
-  static QString cadena() { return QStringLiteral("dsn=velandria;pwd=KorvanitesX%QQRT;"); }
+  static QString cadena() { return kCadenaVelandria; }
   // Adds one row per driver ("motor", QString) to a data-driven test.
   static void agregarFilas();
 
@@ -35,8 +35,6 @@ class MotoresPrueba {
   // The file behind the "velandria" ODBC data source.
   QString archivoOdbc() const { return dir_.filePath(QStringLiteral("velandria_odbc.db")); }
   PostgresPrueba* postgres();
-  // Why the server could not start, when postgres() gave nothing.
-  QString errorPostgres() const { return postgres_ ? postgres_->error() : QString(); }
 
  private:
   // Defines "velandria" (SQLite) and, given a database, "lumbraCopas" (PostgreSQL) for ODBC.
@@ -47,7 +45,14 @@ class MotoresPrueba {
   int bases_ = 0;
 };
 
-// Opens a fresh database on the current row's driver or fails the test function.
+// One statement of the program with sample values spliced in, and the text each engine must
+// receive after the dialect rewrites (data/dialect-vectors.json).
+struct VectorSentencia {
+  QString id, texto, sqlite, sqliteOdbc, postgres;
+};
+QList<VectorSentencia> CargarVectores();
+
+// Opens a fresh database on the driver or fails the test function.
 #define ABRIR_NUEVA(motores, conexion, motor, ...)                               \
   do {                                                                           \
     const QString error_ = (motores).abrirNueva(conexion, motor, ##__VA_ARGS__); \

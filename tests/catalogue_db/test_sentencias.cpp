@@ -1,0 +1,293 @@
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "archivo_ini.h"
+#include "dialecto.h"
+#include "error_bd.h"
+#include "motores_prueba.h"
+#include "recordset.h"
+#include "val.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(Motor)
+
+// What needs no database server: the dialect rewrites, the second-statement guard, val(), the
+// connection string and the installation's file, and opening what cannot be opened.
+class TestSentencias : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { motores_ = std::make_unique<MotoresPrueba>(); }
+  void adaptar_data();
+  void adaptar();
+  void segundaSentencia_data();
+  void segundaSentencia();
+  void valJet_data();
+  void valJet();
+  void paresDeCadena();
+  void archivoIni();
+  void origenesDesdeIni();
+  void aperturaFallida_data();
+  void aperturaFallida();
+  void servidorQueNoArranca();
+
+ private:
+  std::unique_ptr<MotoresPrueba> motores_;
+};
+
+void TestSentencias::adaptar_data() {
+  QTest::addColumn<QString>("texto");
+  QTest::addColumn<Motor>("motor");
+  QTest::addColumn<QString>("esperado");
+  const QList<VectorSentencia> vectores = CargarVectores();
+  QVERIFY(vectores.size() >= 70);
+  for (const VectorSentencia& v : vectores) {
+    QTest::addRow("%s sqlite", qPrintable(v.id)) << v.texto << Motor::SQLite << v.sqlite;
+    QTest::addRow("%s odbc", qPrintable(v.id)) << v.texto << Motor::SQLiteODBC << v.sqliteOdbc;
+    QTest::addRow("%s postgresql", qPrintable(v.id)) << v.texto << Motor::PostgreSQL << v.postgres;
+  }
+  const QString enLiteral =
+      u"select * from productos where nombre = 'Delete * from true <> null order by val(x)'"_s;
+  const QList<std::tuple<QString, Motor, QString>> reglas = {
+      {enLiteral, Motor::SQLite, enLiteral},
+      {enLiteral, Motor::SQLiteODBC, enLiteral},
+      {enLiteral, Motor::PostgreSQL, enLiteral},
+      {u"select * from t where a = 'it''s = null' and b = null"_s, Motor::SQLite,
+       u"select * from t where a = 'it''s = null' and b is null"_s},
+      {u"select trueno, falseta, nullable from t where x=true and y=FALSE"_s, Motor::SQLite,
+       u"select trueno, falseta, nullable from t where x=-1 and y=0"_s},
+      {u"select * from t where a >= 1 and b <= 2 and c<>NULL and d =null"_s, Motor::SQLite,
+       u"select * from t where a >= 1 and b <= 2 and c is not null and d is null"_s},
+      {u"select * from t where (a=null or b<>null)"_s, Motor::PostgreSQL,
+       u"select * from t where (a is null or b is not null)"_s},
+      {u"select * from t order by Val(trim(codigo)) desc"_s, Motor::SQLiteODBC,
+       u"select * from t order by cast(trim(codigo) as real) desc"_s},
+      {u"select interval(a) from t"_s, Motor::SQLiteODBC, u"select interval(a) from t"_s},
+      {u"select * from t order by a, b desc, c asc"_s, Motor::PostgreSQL,
+       u"select * from t order by a nulls first, b desc nulls last, c asc nulls first"_s},
+      {u"select * from (select a from t order by a) x order by b desc"_s, Motor::PostgreSQL,
+       u"select * from (select a from t order by a nulls first) x order by b desc nulls last"_s},
+      {u"select * from t order by coalesce(a, 0), val(b)"_s, Motor::PostgreSQL,
+       u"select * from t order by coalesce(a, 0) nulls first, val(b) nulls first"_s},
+      {u"select * from t order by a desc"_s, Motor::SQLite, u"select * from t order by a desc"_s},
+      {u"Delete * from subproductos where codproductopadre = '1'"_s, Motor::Access,
+       u"Delete * from subproductos where codproductopadre = '1'"_s},
+      {u"DELETE\n*\nFROM t"_s, Motor::PostgreSQL, u"DELETE FROM t"_s},
+  };
+  for (const auto& [texto, motor, esperado] : reglas)
+    QTest::addRow("%d: %s", int(motor), qPrintable(texto)) << texto << motor << esperado;
+}
+
+void TestSentencias::adaptar() {
+  QFETCH(QString, texto);
+  QFETCH(Motor, motor);
+  QFETCH(QString, esperado);
+  QCOMPARE(AdaptarSentencia(texto, motor), esperado);
+  // None of the program's statements is two, and adapting twice changes nothing more.
+  QVERIFY(!TieneSegundaSentencia(esperado));
+  QCOMPARE(AdaptarSentencia(esperado, motor), esperado);
+}
+
+void TestSentencias::segundaSentencia_data() {
+  QTest::addColumn<QString>("texto");
+  QTest::addColumn<bool>("segunda");
+  const QString p = u"select * from productos where codigo = '"_s;
+  // Values that read as one statement to a reader of '...' only, and as two to an engine.
+  for (const QString& s :
+       {p + u"1'; delete from stock; --'"_s, u"select * from t where a = 'x';delete from stock"_s,
+        u"select 1;\n  drop table stock"_s, u"select 1; -- nada\ndelete from stock"_s,
+        u"select 1; 'x'"_s, p + u"x' and E'\\'' = 'a'; delete from stock; --'"_s,
+        p + u"x' and $$'$$ = 'a'; delete from stock; --'"_s,
+        p + u"x' and $q$'$q$ = 'a'; delete from stock; --'"_s,
+        p + u"x' -- '\n; delete from stock; --'"_s, p + u"x' /* ' */ ; delete from stock; --'"_s,
+        p + u"x' and 1 = (select 1 as \"'\"); delete from stock; --'"_s,
+        p + u"x' and [']; delete from stock; --'"_s, p + u"x\\' ; delete from stock; --'"_s})
+    QTest::newRow(qPrintable(s)) << s << true;
+  for (const QString& s :
+       {u"insert into traducciones (caption) values ('Precio $; total \\')"_s,
+        u"select $1 from t where a = 'b;c'"_s, p + u"1; delete from stock'"_s,
+        u"insert into traducciones (caption) values ('l''a; b')"_s, u"select * from stock;"_s,
+        u"select * from stock ;  \n"_s, u"select * from stock;;"_s,
+        u"select * from stock; -- fin"_s, u"select * from stock"_s, p + u"1; delete from stock"_s})
+    QTest::newRow(qPrintable(s)) << s << false;
+}
+
+void TestSentencias::segundaSentencia() {
+  QFETCH(QString, texto);
+  QFETCH(bool, segunda);
+  QCOMPARE(TieneSegundaSentencia(texto), segunda);
+}
+
+void TestSentencias::valJet_data() {
+  QTest::addColumn<QString>("texto");
+  QTest::addColumn<double>("valor");
+  const QList<std::pair<QString, double>> casos = {{u" 12abc"_s, 12},
+                                                   {u""_s, 0},
+                                                   {u"abc"_s, 0},
+                                                   {u"-3.5e2"_s, -350},
+                                                   {u" 1 2\t3\n4"_s, 1234},
+                                                   {u"-  4"_s, -4},
+                                                   {u"+5"_s, 5},
+                                                   {u"3.14.15"_s, 3.14},
+                                                   {u"-.5"_s, -0.5},
+                                                   {u"."_s, 0},
+                                                   {u"-"_s, 0},
+                                                   {u"1,5"_s, 1},
+                                                   {u"7e+"_s, 7},
+                                                   {u"1d2"_s, 100},
+                                                   {u"25E-1"_s, 2.5},
+                                                   {u"&H1F"_s, 31},
+                                                   {u"&o17"_s, 15},
+                                                   {u"&H"_s, 0},
+                                                   {u"&12"_s, 0},
+                                                   {u"\u0661\u0662"_s, 0},
+                                                   {u"007"_s, 7}};
+  for (const auto& [texto, valor] : casos)
+    QTest::newRow(qPrintable(u'[' + texto + u']')) << texto << valor;
+}
+
+void TestSentencias::valJet() {
+  QFETCH(QString, texto);
+  QFETCH(double, valor);
+  QCOMPARE(ValJet(texto), valor);
+}
+
+void TestSentencias::paresDeCadena() {
+  using Pares = QMap<QString, QString>;
+  QCOMPARE(ParesDeCadena(kCadenaVelandria),
+           (Pares{{u"dsn"_s, u"velandria"_s}, {u"pwd"_s, u"KorvanitesX%QQRT"_s}}));
+  // Keys come back in lower case, values keep theirs; braces keep ';' and '='; a piece with no
+  // '=' is skipped; the first occurrence of a key wins, as in ODBC.
+  QCOMPARE(ParesDeCadena(u"DSN=LumbraCopas;PWD={a;b=c};uid=x=y;velandria;;dsn=dos"_s),
+           (Pares{{u"dsn"_s, u"LumbraCopas"_s}, {u"pwd"_s, u"a;b=c"_s}, {u"uid"_s, u"x=y"_s}}));
+  QVERIFY(ParesDeCadena(QString()).isEmpty());
+}
+
+void TestSentencias::archivoIni() {
+  const ArchivoIni ini = ArchivoIni::DesdeTexto(
+      u"\uFEFFclave suelta = 1\r\n; comment\r\n[DSN Velandria]\r\nTipo = sqlite\r\n"
+      "# another comment\r\narchivo=datos=1.db\r\n\r\n[ayuda]\nnombre=Caña\n"
+      "[dsn velandria]\ntipo=odbc\nlinea sin igual\n"_s);
+  QCOMPARE(ini.secciones(), (QStringList{u"DSN Velandria"_s, u"ayuda"_s}));
+  QCOMPARE(ini.valor(u"dsn velandria"_s, u"TIPO"_s), u"odbc"_s);  // the later value wins
+  QCOMPARE(ini.valor(u"dsn velandria"_s, u"archivo"_s), u"datos=1.db"_s);
+  QCOMPARE(ini.claves(u"Dsn Velandria"_s), (QStringList{u"Tipo"_s, u"archivo"_s}));
+  QCOMPARE(ini.valor(u"ayuda"_s, u"nombre"_s), u"Caña"_s);
+  QCOMPARE(ini.valor(QString(), u"clave suelta"_s), u"1"_s);  // before any section, BOM and all
+  QCOMPARE(ini.valor(u"ayuda"_s, u"falta"_s, u"def"_s), u"def"_s);
+  QVERIFY(ini.tieneSeccion(u"AYUDA"_s) && !ini.tieneSeccion(u"otra"_s));
+
+  // From disk, written by a Windows tool in its code page, not UTF-8.
+  QTemporaryDir dir;
+  QFile f(dir.filePath(u"productos.ini"_s));
+  QVERIFY(ArchivoIni::Leer(f.fileName()).secciones().isEmpty());
+  QVERIFY(f.open(QIODevice::WriteOnly));
+  f.write("[fotos]\r\ncarpeta=C:\\TPV\\Fotos A\xF1o\r\n");
+  f.close();
+  QCOMPARE(ArchivoIni::Leer(f.fileName()).valor(u"fotos"_s, u"carpeta"_s), u"C:\\TPV\\Fotos Año"_s);
+}
+
+// The installation maps data-source names to SQLite files (relative to its folder, with '\' as
+// the folder separator) or to PostgreSQL servers; the suite's connection string then opens them.
+void TestSentencias::origenesDesdeIni() {
+  QTemporaryDir dir;
+  const OrigenesDatos o = OrigenesDatos::DesdeIni(
+      ArchivoIni::DesdeTexto(
+          u"[dsn velandria]\ntipo=SQLite\narchivo=datos\\velandria.mdb\n"
+          "[dsn lumbraCopas]\ntipo=postgresql\nservidor=/run/pg\npuerto=5433\nbasedatos=copas\n"
+          "usuario=tpv\nclave=otra\n[DSN lumbraFastFood]\ntipo=postgresql\npuerto=no\n"
+          "[dsn porodbc]\ntipo=odbc\n[dsn raro]\ntipo=oracle\n[dsn  Mi Base ]\ntipo=sqlite\n"
+          "archivo=/srv/mi.db\n[dsnx]\ntipo=sqlite\n[ayuda]\ntipo=sqlite\n"_s),
+      dir.path());
+  const OrigenDatos* c = o.buscar(u"lumbracopas"_s);
+  QVERIFY(c);
+  QCOMPARE(std::tuple(c->tipo, c->servidor, c->puerto, c->baseDatos, c->usuario, c->clave),
+           std::tuple(OrigenDatos::Tipo::PostgreSQL, u"/run/pg"_s, 5433, u"copas"_s, u"tpv"_s,
+                      u"otra"_s));
+  // Defaults: the local server on the standard port, a database named as the data source.
+  const OrigenDatos* f = o.buscar(u"lumbraFastFood"_s);
+  QVERIFY(f);
+  QCOMPARE(std::tuple(f->servidor, f->puerto, f->baseDatos, f->clave),
+           std::tuple(u"localhost"_s, 5432, u"lumbraFastFood"_s, QString()));
+  QCOMPARE(o.buscar(u"mi base"_s)->archivo, u"/srv/mi.db"_s);
+  for (const QString& nada : {u"porodbc"_s, u"raro"_s, QString(), u"ayuda"_s, u"x"_s, u"dsnx"_s})
+    QVERIFY2(!o.buscar(nada), qPrintable(nada));
+
+  QVERIFY(QDir(dir.path()).mkpath(u"datos"_s));
+  Conexion creadora;
+  creadora.abrirSQLite(dir.filePath(u"datos/velandria.mdb"_s));
+  creadora.ejecutarDirecto(u"create table stock (producto integer)"_s);
+  Conexion c2;
+  c2.abrir(kCadenaVelandria, o);
+  QCOMPARE(c2.motor(), Motor::SQLite);
+  QCOMPARE(c2.rutaPredeterminada(), dir.filePath(u"datos/velandria"_s));
+  QCOMPARE(c2.ejecutar(u"insert into stock (producto) values (1)"_s), 1);
+}
+
+void TestSentencias::aperturaFallida_data() {
+  QTest::addColumn<QString>("cadena");
+  QTest::addColumn<QString>("mensaje");
+  const QString sinOrigen =
+      u"[unixODBC][Driver Manager]Data source name not found and no default driver specified"_s;
+  QTest::newRow("missing file") << kCadenaVelandria
+                                << u"No se encuentra el archivo de base de datos "
+                                   "/nonexistent/velandria.db"_s;
+  // The program type "Restaurante" gives an empty connection string.
+  QTest::newRow("empty") << QString() << sinOrigen;
+  QTest::newRow("no name") << u"dsn=;pwd=x;"_s << sinOrigen;
+  QTest::newRow("no dsn") << u"pwd=KorvanitesX%QQRT;"_s << sinOrigen;
+  // The description goes to the error log: it never carries the password.
+  QTest::newRow("unknown") << u"dsn=noexiste;pwd=KorvanitesX%QQRT;"_s << sinOrigen;
+  QTest::newRow("no server") << u"dsn=lumbraCopas;pwd=x;"_s << QString();
+}
+
+// A data source that cannot be opened gives an error to log; the connection stays closed, and
+// no stray database file is made in the working folder.
+void TestSentencias::aperturaFallida() {
+  QFETCH(QString, cadena);
+  QFETCH(QString, mensaje);
+  OrigenesDatos origenes;
+  OrigenDatos archivo, servidor;
+  archivo.tipo = OrigenDatos::Tipo::SQLite;
+  archivo.archivo = u"/nonexistent/velandria.db"_s;
+  origenes.mapear(u"velandria"_s, archivo);
+  servidor.tipo = OrigenDatos::Tipo::PostgreSQL;
+  servidor.servidor = u"/nonexistent"_s;
+  origenes.mapear(u"lumbraCopas"_s, servidor);
+  QTemporaryDir carpeta;
+  const QString antes = QDir::currentPath();
+  QDir::setCurrent(carpeta.path());
+  Conexion c;
+  try {
+    c.abrir(cadena, origenes);
+    QFAIL("opened");
+  } catch (const ErrorBD& e) {
+    if (!mensaje.isEmpty())
+      QCOMPARE(e.descripcion(), mensaje);
+  }
+  QDir::setCurrent(antes);
+  QVERIFY(QDir(carpeta.path()).isEmpty());
+  QVERIFY(!c.abierta());
+  try {
+    c.ejecutar(u"delete from stock"_s);
+    QFAIL("a closed connection ran a statement");
+  } catch (const ErrorBD& e) {
+    QCOMPARE(e.descripcion(), u"La conexión con la base de datos no está abierta"_s);
+  }
+  QVERIFY_THROWS_EXCEPTION(ErrorBD, Recordset(c, u"select * from stock"_s));
+  QVERIFY_THROWS_EXCEPTION(ErrorBD, Transaccion{c});
+}
+
+// Without the server's programs the test run fails with the reason; it never passes quietly.
+void TestSentencias::servidorQueNoArranca() {
+  qputenv("PRODUCTOS_PG_BIN", "/nonexistent/bin");
+  PostgresPrueba pg;
+  qunsetenv("PRODUCTOS_PG_BIN");
+  QVERIFY(!pg.arrancado());
+  QVERIFY2(pg.error().contains(u"initdb"_s), qPrintable(pg.error()));
+}
+
+QTEST_GUILESS_MAIN(TestSentencias)
+#include "test_sentencias.moc"
