@@ -120,3 +120,12 @@ QList<VectorSentencia> CargarVectores() {
   }
   return vectores;
 }
+
+QString ErrorDe(const std::function<void()>& accion) {
+  try {
+    accion();
+  } catch (const ErrorBD& e) {
+    return e.descripcion();
+  }
+  return u"(no error)"_s;
+}

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 #include "conexion.h"
@@ -51,6 +52,9 @@ struct VectorSentencia {
   QString id, texto, sqlite, sqliteOdbc, postgres;
 };
 QList<VectorSentencia> CargarVectores();
+
+// The description of the database error that the action throws; "(no error)" when none.
+QString ErrorDe(const std::function<void()>& accion);
 
 // Opens a fresh database on the driver or fails the test function.
 #define ABRIR_NUEVA(motores, conexion, motor, ...)                               \

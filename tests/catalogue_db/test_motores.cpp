@@ -80,15 +80,6 @@ void Poner(Recordset& rs, const QList<std::pair<QString, QVariant>>& campos) {
     rs.setField(campo, valor);
 }
 
-QString Error(const std::function<void()>& accion) {
-  try {
-    accion();
-  } catch (const ErrorBD& e) {
-    return e.descripcion();
-  }
-  return u"(no error)"_s;
-}
-
 }  // namespace
 
 // The program's statements, the suite's desktop database semantics and the recordset, alike on
@@ -143,7 +134,7 @@ void TestMotores::conexion() {
   OrigenesDatos origenes;
   OrigenDatos origen = motores_->postgres()->crearBaseDatos(u"mapeo"_s);
   origenes.mapear(u"velandria"_s, origen);
-  const QString error = Error([&] { Conexion().abrir(u"dsn=VELANDRIA;pwd=Otra9;"_s, origenes); });
+  const QString error = ErrorDe([&] { Conexion().abrir(u"dsn=VELANDRIA;pwd=Otra9;"_s, origenes); });
   QVERIFY2(error.contains(u"password"_s) && !error.contains(u"Otra9"_s), qPrintable(error));
   origen.clave = PostgresPrueba::clave();
   origenes.mapear(u"velandria"_s, origen);
@@ -249,9 +240,9 @@ void TestMotores::segundaSentenciaRechazada() {
   for (const QString& s : {u"select 1; delete from stock"_s, p + u"'1'; delete from stock; --'"_s,
                            p + u"'x' and E'\\'' = 'a'; delete from stock; --'"_s,
                            p + u"'x' and $$'$$ = 'a'; delete from stock; --'"_s}) {
-    QCOMPARE(Error([&] { c.ejecutar(s); }), mensaje);
-    QCOMPARE(Error([&] { Recordset(c, s); }), mensaje);
-    QCOMPARE(Error([&] { c.ejecutarDirecto(s); }), mensaje);
+    QCOMPARE(ErrorDe([&] { c.ejecutar(s); }), mensaje);
+    QCOMPARE(ErrorDe([&] { Recordset(c, s); }), mensaje);
+    QCOMPARE(ErrorDe([&] { c.ejecutarDirecto(s); }), mensaje);
   }
   // The connection is still usable, and a ';' inside a value is only text.
   c.ejecutar(u"update productos set nombre = 'a; delete from stock' where codigo = '1'"_s);
@@ -288,7 +279,7 @@ void TestMotores::recorrido() {
   QVERIFY(rs.bof() && rs.eof());
   for (const auto& mover : {&Recordset::moveFirst, &Recordset::moveLast, &Recordset::moveNext,
                             &Recordset::movePrevious, &Recordset::deleteRow})
-    QVERIFY(Error([&] { (rs.*mover)(); }).startsWith(bof));
+    QVERIFY(ErrorDe([&] { (rs.*mover)(); }).startsWith(bof));
   QVERIFY_THROWS_EXCEPTION(ErrorBD, rs.setField(u"nombre"_s, 1));
   c.ejecutar(
       u"insert into productos (codigo, nombre, borrar) values ('1', 'Agua', 0), "
@@ -305,14 +296,14 @@ void TestMotores::recorrido() {
   rs.moveNext();
   rs.moveNext();
   QVERIFY(rs.eof() && !rs.bof());
-  QVERIFY(Error([&] { rs.field(0); }).startsWith(bof));
-  QVERIFY(Error([&] { rs.moveNext(); }).startsWith(bof));
+  QVERIFY(ErrorDe([&] { rs.field(0); }).startsWith(bof));
+  QVERIFY(ErrorDe([&] { rs.moveNext(); }).startsWith(bof));
   rs.movePrevious();
   QCOMPARE(rs.field(1).toString(), u"Vino"_s);
   rs.moveFirst();
   rs.movePrevious();
   QVERIFY(rs.bof() && !rs.eof());
-  QVERIFY(Error([&] { rs.movePrevious(); }).startsWith(bof));
+  QVERIFY(ErrorDe([&] { rs.movePrevious(); }).startsWith(bof));
   rs.moveNext();  // from BOF to the first row
   QCOMPARE(rs.field(u"codigo"_s).toString(), u"1"_s);
   QVERIFY_THROWS_EXCEPTION(ErrorBD, rs.field(u"noexiste"_s));
