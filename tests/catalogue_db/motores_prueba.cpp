@@ -121,6 +121,15 @@ QList<VectorSentencia> CargarVectores() {
   return vectores;
 }
 
+void Sembrar(Conexion& conexion) {
+  QFile f(QStringLiteral(SEMILLA));
+  QVERIFY2(f.open(QIODevice::ReadOnly), SEMILLA);
+  for (const QString& s : QString::fromUtf8(f.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
+    if (!s.startsWith(u"--"_s))
+      conexion.ejecutar(s);
+  }
+}
+
 QString ErrorDe(const std::function<void()>& accion) {
   try {
     accion();

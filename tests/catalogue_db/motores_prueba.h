@@ -52,6 +52,8 @@ struct VectorSentencia {
   QString id, texto, sqlite, sqliteOdbc, postgres;
 };
 QList<VectorSentencia> CargarVectores();
+// Runs data/semilla.sql: a few rows in every table that the program's statements read.
+void Sembrar(Conexion& conexion);
 
 // The description of the database error that the action throws; "(no error)" when none.
 QString ErrorDe(const std::function<void()>& accion);

@@ -1,0 +1,21 @@
+-- A few rows in every table that the program's statements read, so that their joins and
+-- sub-queries have something to work on. Codes are chosen so that the statements' own inserts do
+-- not clash. One statement per line.
+insert into opciones (identificador, idioma, tipo_programa, numdecimales) values ('INST1', 'CASTELLANO', 'RESTAURANTE', 2)
+insert into opciones_terminal (identificador, empleado, id_color, colorpredefinido, tipo_letra, aumento_x, aumento_y) values ('INST1T1', 12, 2, 0, 1, 100, 100)
+insert into listadostemporal (tipoprograma, list1, list2) values ('RESTAURANTE', 'INST1', 'T1')
+insert into relaciones_fijas (indice, daton) values ('opcion_color_panel_familias', -1)
+insert into proveedores (codigo, nombre, borrar) values ('P1', 'Distribuciones Sur', 0), ('P2', 'Bebidas Norte', -1)
+insert into seccion (codigo, nombre, borrar, menu, orden) values ('1', 'Bebidas', 0, 0, 1), ('2', 'Cocina', 0, 0, 2), ('', 'Sin código', 0, 0, 3)
+insert into productos (codigo, nombre, seccion, proveedor, borrar, mostrarencaja, tipoprod, orden, descnumerica, codigobarras) values ('1', 'Coca Cola', '1', 'P1', 0, 0, 1, 1, 1, '8410001'), ('2', 'Agua', '1', 'P1', 0, 0, 0, 2, 2, null), ('3', 'Cocido', '-1', 'P1', 0, 0, 2, null, null, null), ('5', 'Menú', '-1', null, 0, 0, 1, 5, null, null), ('6', 'Borrable', '2', null, 0, -1, 1, 6, null, null), ('10', 'Vino', '2', null, 0, 0, 1, null, null, null)
+insert into stock (producto, stock, stockminimo) values (3, 1, 0), (6, 1, 0)
+insert into productoproveedor (producto, proveedor, coste) values ('1', 'P1', 0)
+insert into productoelaborado_producto (productopadre, productohijo, cantidad) values ('5', '1', 2)
+insert into subproductos (codproductopadre, codproductohijo) values ('1', '2')
+insert into menu_productos (seccion, producto, orden) values ('1', '1', 2)
+insert into impresoras (codigo, nombre) values (2, 'Cocina')
+insert into colores (id_color, fondomarco, nombre) values (1, 255, 'Claro'), (2, 0, 'Oscuro')
+insert into atributos (codigo, form, boton) values (1, 'frmProductos1024', 'cmd_nuevo')
+insert into empleadosatributos (codempleado, codatributo) values (7, 1)
+insert into traducciones (caption, ingles) values ('Nuevo', 'New')
+insert into entradas1 (formulario, empleado, entradas, ultimafecha) values ('frmProductos1024', '12', 3, '01/02/2024')
