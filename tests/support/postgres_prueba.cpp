@@ -3,16 +3,10 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <QAtomicInt>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QStandardPaths>
-#include <tuple>
 
 #include "instalacion_prueba.h"
 
@@ -24,15 +18,11 @@ QString CarpetaBinarios() {
   const QString elegida = qEnvironmentVariable("PRODUCTOS_PG_BIN");
   if (!elegida.isEmpty())
     return elegida;
-  QString mejor;
-  double version = -1;
-  for (const QString& v :
-       QDir(u"/usr/lib/postgresql"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-    const QString bin = u"/usr/lib/postgresql/%1/bin"_s.arg(v);
-    if (QFile::exists(bin + u"/initdb"_s) && v.toDouble() > version)
-      std::tie(mejor, version) = std::pair(bin, v.toDouble());
-  }
-  return mejor;
+  QStringList versiones =
+      QDir(u"/usr/lib/postgresql"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+  std::sort(versiones.begin(), versiones.end(),
+            [](const QString& a, const QString& b) { return a.toDouble() > b.toDouble(); });
+  return versiones.isEmpty() ? QString() : u"/usr/lib/postgresql/%1/bin"_s.arg(versiones.first());
 }
 
 }  // namespace
@@ -53,6 +43,9 @@ bool PostgresPrueba::ejecutarPrograma(const QString& programa, const QStringList
   QProcess p;
   p.setWorkingDirectory(dir_.path());
   p.setProcessChannelMode(QProcess::MergedChannels);
+  QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+  entorno.insert(u"PGPASSWORD"_s, clave());
+  p.setProcessEnvironment(entorno);
   const QString ruta = binarios_ + u'/' + programa;
   if (comoRoot_) {
     p.start(
@@ -78,10 +71,8 @@ bool PostgresPrueba::arrancar() {
   comoRoot_ = ::geteuid() == 0;
   const QString clave = dir_.filePath(u"clave"_s);
   QFile f(clave);
-  if (!f.open(QIODevice::WriteOnly) || f.write(PostgresPrueba::clave().toUtf8()) < 0) {
-    error_ = u"cannot write the password file"_s;
-    return false;
-  }
+  if (f.open(QIODevice::WriteOnly))
+    f.write(PostgresPrueba::clave().toUtf8());
   f.close();
   if (comoRoot_ &&
       (!pg || ::chown(QFile::encodeName(dir_.path()).constData(), pg->pw_uid, pg->pw_gid) != 0 ||
@@ -110,26 +101,9 @@ bool PostgresPrueba::arrancar() {
 }
 
 bool PostgresPrueba::ejecutarComoAdministrador(const QString& baseDatos, const QString& sentencia) {
-  static QAtomicInt conexiones;
-  const QString nombre = u"postgres_prueba_%1"_s.arg(conexiones.fetchAndAddRelaxed(1));
-  bool ok = false;
-  {
-    QSqlDatabase bd = QSqlDatabase::addDatabase(u"QPSQL"_s, nombre);
-    bd.setHostName(carpetaSocket());
-    bd.setPort(puerto());
-    bd.setDatabaseName(baseDatos);
-    bd.setUserName(usuario());
-    bd.setPassword(clave());
-    if (bd.open()) {
-      QSqlQuery q(bd);
-      ok = q.exec(sentencia);
-      error_ = ok ? error_ : q.lastError().text();
-    } else {
-      error_ = bd.lastError().text();
-    }
-  }
-  QSqlDatabase::removeDatabase(nombre);
-  return ok;
+  return ejecutarPrograma(
+      u"psql"_s, {u"-h"_s, carpetaSocket(), u"-p"_s, QString::number(puerto()), u"-U"_s, usuario(),
+                  u"-d"_s, baseDatos, u"-v"_s, u"ON_ERROR_STOP=1"_s, u"-c"_s, sentencia});
 }
 
 OrigenDatos PostgresPrueba::crearBaseDatos(const QString& nombre) {
