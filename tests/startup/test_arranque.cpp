@@ -139,19 +139,15 @@ void TestArranque::mainSegunElTipoDePrograma() {
     TipoPrograma(q, tipo);
     OrigenDatos archivo;
     archivo.tipo = OrigenDatos::Tipo::SQLite;
-    archivo.archivo = q.rutaPrincipal();
-    if (modo == 4) {
-      archivo.archivo += u".copia.db"_s;
-      QVERIFY(QFile::copy(q.rutaPrincipal(), archivo.archivo));
-    }
+    archivo.archivo = q.rutaPrincipal() + (modo == 4 ? u".copia.db"_s : QString());
+    QVERIFY(modo == 1 || QFile::copy(q.rutaPrincipal(), archivo.archivo));
     q.entorno().instalacion.origenes.mapear(origen, archivo);
     if (modo == 4)
       QVERIFY_THROWS_EXCEPTION(ErrorEjecucion, Main(q.entorno(), [] { QFAIL("shown"); }));
     else
       Main(q.entorno(), [] {});
     QCOMPARE(q.entorno().sesion.ModoPrograma, qint16(modo));
-    QVERIFY(q.entorno().ConexionBD->abierta());
-    QVERIFY(q.log().isEmpty());
+    QVERIFY(q.entorno().ConexionBD->abierta() && q.log().isEmpty());
   }
 }
 
