@@ -51,7 +51,6 @@ class TestMotores : public QObject {
   void conexion();
   void catalogoDeSentencias();
   void semanticaDelMotorDeLaSuite();
-  void segundaSentenciaRechazada();
   void transacciones();
   void recorrido();
   void altaCambioYBorrado();
@@ -186,26 +185,6 @@ void TestMotores::semanticaDelMotorDeLaSuite() {
     QCOMPARE(ValoresDe(c, u"Select caption from traducciones where caption = '%1'"_s.arg(nombre)),
              nombre);
   }
-}
-
-void TestMotores::segundaSentenciaRechazada() {
-  ABRIR_NUEVA_DEL_MOTOR(*motores_);
-  c.ejecutar(u"insert into stock (producto, stock) values (1, 5)"_s);
-  c.ejecutar(u"insert into productos (codigo, nombre) values ('1', 'Agua')"_s);
-  const QString mensaje = u"Sentencia rechazada: contiene más de una instrucción SQL"_s;
-  const QString p = u"select * from productos where codigo = "_s;
-  // Values that hide their ';' from a reader that knows only '...' strings.
-  for (const QString& s : {u"select 1; delete from stock"_s, p + u"'1'; delete from stock; --'"_s,
-                           p + u"'x' and E'\\'' = 'a'; delete from stock; --'"_s,
-                           p + u"'x' and $$'$$ = 'a'; delete from stock; --'"_s}) {
-    QCOMPARE(ErrorDe([&] { c.ejecutar(s); }), mensaje);
-    QCOMPARE(ErrorDe([&] { Recordset(c, s); }), mensaje);
-    QCOMPARE(ErrorDe([&] { c.ejecutarDirecto(s); }), mensaje);
-  }
-  // The connection is still usable, and a ';' inside a value is only text.
-  c.ejecutar(u"update productos set nombre = 'a; delete from stock' where codigo = '1'"_s);
-  QCOMPARE(Filas(c, u"select p.nombre, s.producto from productos p, stock s;"_s),
-           (QList<QVariantList>{{u"a; delete from stock"_s, 1}}));
 }
 
 // A transaction not confirmed leaves nothing; a schema that cannot be created, nothing half made.
