@@ -125,27 +125,14 @@ void TestSentencias::segundaSentencia() {
 void TestSentencias::valJet_data() {
   QTest::addColumn<QString>("texto");
   QTest::addColumn<double>("valor");
-  const QList<std::pair<QString, double>> casos = {{u" 12abc"_s, 12},
-                                                   {u""_s, 0},
-                                                   {u"abc"_s, 0},
-                                                   {u"-3.5e2"_s, -350},
-                                                   {u" 1 2\t3\n4"_s, 1234},
-                                                   {u"-  4"_s, -4},
-                                                   {u"+5"_s, 5},
-                                                   {u"3.14.15"_s, 3.14},
-                                                   {u"-.5"_s, -0.5},
-                                                   {u"."_s, 0},
-                                                   {u"-"_s, 0},
-                                                   {u"1,5"_s, 1},
-                                                   {u"7e+"_s, 7},
-                                                   {u"1d2"_s, 100},
-                                                   {u"25E-1"_s, 2.5},
-                                                   {u"&H1F"_s, 31},
-                                                   {u"&o17"_s, 15},
-                                                   {u"&H"_s, 0},
-                                                   {u"&12"_s, 0},
-                                                   {u"\u0661\u0662"_s, 0},
-                                                   {u"007"_s, 7}};
+  // clang-format off
+  const QList<std::pair<QString, double>> casos = {
+      {u" 12abc"_s, 12}, {u""_s, 0}, {u"abc"_s, 0}, {u"-3.5e2"_s, -350}, {u" 1 2\t3\n4"_s, 1234},
+      {u"-  4"_s, -4}, {u"+5"_s, 5}, {u"3.14.15"_s, 3.14}, {u"-.5"_s, -0.5}, {u"."_s, 0},
+      {u"-"_s, 0}, {u"1,5"_s, 1}, {u"7e+"_s, 7}, {u"1d2"_s, 100}, {u"25E-1"_s, 2.5},
+      {u"&H1F"_s, 31}, {u"&o17"_s, 15}, {u"&H"_s, 0}, {u"&12"_s, 0}, {u"\u0661\u0662"_s, 0},
+      {u"007"_s, 7}};
+  // clang-format on
   for (const auto& [texto, valor] : casos)
     QTest::newRow(qPrintable(u'[' + texto + u']')) << texto << valor;
 }
