@@ -1,10 +1,12 @@
 #include "postgres_prueba.h"
 
 #include <pwd.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -67,8 +69,21 @@ bool PostgresPrueba::arrancar() {
     error_ = u"no temporary folder, or no initdb (install the postgresql package)"_s;
     return false;
   }
-  const passwd* pg = ::getpwnam("postgres");
   comoRoot_ = ::geteuid() == 0;
+  // A test run that crashed left its server running: stop those whose test process is gone.
+  for (const QFileInfo& otra :
+       QDir(u"/tmp"_s).entryInfoList({u"productos-pg-*"_s}, QDir::Dirs | QDir::NoDotAndDotDot)) {
+    QFile creador(otra.filePath() + u"/creador"_s);
+    const QString datos = otra.filePath() + u"/datos"_s;
+    if (creador.open(QIODevice::ReadOnly) && ::kill(creador.readAll().toInt(), 0) != 0 &&
+        (!QFile::exists(datos + u"/postmaster.pid"_s) ||
+         ejecutarPrograma(u"pg_ctl"_s, {u"-D"_s, datos, u"-m"_s, u"immediate"_s, u"stop"_s})))
+      QDir(otra.filePath()).removeRecursively();
+  }
+  QFile creador(dir_.filePath(u"creador"_s));
+  if (creador.open(QIODevice::WriteOnly))
+    creador.write(QByteArray::number(::getpid()));
+  const passwd* pg = ::getpwnam("postgres");
   const QString clave = dir_.filePath(u"clave"_s);
   QFile f(clave);
   if (f.open(QIODevice::WriteOnly))
