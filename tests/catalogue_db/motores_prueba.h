@@ -15,9 +15,7 @@
 //   "odbc"        the suite's connection string through unixODBC and the SQLite ODBC driver,
 //                 with the data source defined in a private odbc.ini (ODBCSYSINI / ODBCINI);
 //   "postgresql"  the suite's connection string mapped by the installation to a throwaway
-//                 server (started on first use; a server that cannot start fails the test);
-//   "odbc-postgresql"  the same server through unixODBC and psqlODBC, by a data source of the
-//                 private odbc.ini.
+//                 server (started on first use; a server that cannot start fails the test).
 // Build one per test program, in initTestCase, before any ODBC call.
 class MotoresPrueba {
  public:
@@ -36,11 +34,11 @@ class MotoresPrueba {
   // The file behind the "velandria" ODBC data source.
   QString archivoOdbc() const { return dir_.filePath(QStringLiteral("velandria_odbc.db")); }
   PostgresPrueba* postgres();
+  // Opens the data source "lumbraCopas" of the private odbc.ini, a new database "copas" of the
+  // test server reached through psqlODBC, by the suite's connection string for that program type.
+  QString abrirPorPsqlOdbc(Conexion& conexion);
 
  private:
-  // Defines "velandria" (SQLite) and, given a database, "lumbraCopas" (PostgreSQL) for ODBC.
-  bool escribirOdbcIni(const OrigenDatos& postgres);
-
   QTemporaryDir dir_;
   std::unique_ptr<PostgresPrueba> postgres_;
   int bases_ = 0;

@@ -64,14 +64,12 @@ void TestMotores::conexion() {
   ABRIR_NUEVA_DEL_MOTOR(*motores_);
   const QMap<QString, Motor> motores{{u"sqlite"_s, Motor::SQLite},
                                      {u"odbc"_s, Motor::SQLiteODBC},
-                                     {u"postgresql"_s, Motor::PostgreSQL},
-                                     {u"odbc-postgresql"_s, Motor::PostgreSQL}};
+                                     {u"postgresql"_s, Motor::PostgreSQL}};
   QCOMPARE(c.motor(), motores.value(motor));
-  QCOMPARE(c.bd().driverName() == u"QODBC"_s, motor.startsWith(u"odbc"_s));
+  QCOMPARE(c.bd().driverName() == u"QODBC"_s, motor == u"odbc"_s);
   // The default database path: a file's path without its extension, a server database's name.
-  const QString ruta = motor == u"odbc"_s              ? motores_->archivoOdbc().chopped(3)
-                       : motor == u"odbc-postgresql"_s ? u"copas"_s
-                                                       : c.bd().databaseName().remove(u".db"_s);
+  const QString ruta = motor == u"odbc"_s ? motores_->archivoOdbc().chopped(3)
+                                          : c.bd().databaseName().remove(u".db"_s);
   QCOMPARE(c.rutaPredeterminada(), ruta);
   // Text columns reach Qt's ODBC driver with a modest width: it sizes and clears a buffer of
   // that width for every value it fetches, and a 64 KiB one made lists four times as slow.
@@ -98,6 +96,18 @@ void TestMotores::conexion() {
   Conexion conClave;
   conClave.abrir(u"dsn=velandria;pwd=otra;"_s, origenes);
   QCOMPARE(Filas(conClave, u"select current_user"_s), QList<QVariantList>{{u"tpv"_s}});
+  // Through psqlODBC the password reaches the server as written ("%QQ" is no escape), the engine
+  // is told by the driver, and the text guard alone refuses a second statement: psqlODBC runs it.
+  Conexion odbc;
+  const QString fallo = motores_->abrirPorPsqlOdbc(odbc);
+  QVERIFY2(fallo.isEmpty(), qPrintable(fallo));
+  QCOMPARE(std::pair(odbc.motor(), odbc.rutaPredeterminada()),
+           std::pair(Motor::PostgreSQL, u"copas"_s));
+  CrearEsquema(odbc, {TablasPrincipales().at(0)});
+  QCOMPARE(ErrorDe([&] { odbc.ejecutar(u"select 1; create table otra (a int)"_s); }),
+           u"Sentencia rechazada: contiene más de una instrucción SQL"_s);
+  QCOMPARE(Filas(odbc, u"select count(*) from pg_tables where tablename = 'otra'"_s),
+           QList<QVariantList>{{0}});
 }
 
 // Every statement text of the program, with its sample values, runs on the driver: selects
