@@ -1,6 +1,7 @@
 #include "motores_prueba.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,14 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 QString DriverOdbc(const QString& archivo) {
-  QStringList carpetas{u"/usr/lib/odbc"_s};
-  for (const QString& d : QDir(u"/usr/lib"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-    carpetas.prepend(u"/usr/lib/%1/odbc"_s.arg(d));
-  for (const QString& c : std::as_const(carpetas)) {
-    if (QFile::exists(c + u'/' + archivo))
-      return c + u'/' + archivo;
-  }
-  return {};
+  QDirIterator it(u"/usr/lib"_s, {archivo}, QDir::Files, QDirIterator::Subdirectories);
+  return it.hasNext() ? it.next() : QString();
 }
 
 bool Escribir(const QString& ruta, const QString& texto, QIODevice::OpenMode modo = {}) {
@@ -43,8 +38,6 @@ MotoresPrueba::MotoresPrueba() {
   qputenv("ODBCSYSINI", QFile::encodeName(odbc));
   qputenv("ODBCINI", QFile::encodeName(odbc + u"/odbc.ini"_s));
 }
-
-MotoresPrueba::~MotoresPrueba() = default;
 
 void MotoresPrueba::agregarFilas() {
   QTest::addColumn<QString>("motor");
@@ -71,14 +64,14 @@ QString MotoresPrueba::abrirNueva(Conexion& conexion, const QString& motor,
     } else if (motor == u"odbc"_s) {
       QFile::remove(archivoOdbc());
       // The SQLite ODBC driver creates the file on connecting; no mapping: straight to ODBC.
-      conexion.abrir(cadena(), OrigenesDatos());
+      conexion.abrir(kCadenaVelandria, OrigenesDatos());
     } else if (motor == u"postgresql"_s) {
       const OrigenDatos origen = pg->crearBaseDatos(u"prueba%1"_s.arg(bases_));
       OrigenesDatos origenes;
       origenes.mapear(u"velandria"_s, origen);
       if (origen.baseDatos.isEmpty())
         return u"cannot create a database: "_s + pg->error();
-      conexion.abrir(cadena(), origenes);
+      conexion.abrir(kCadenaVelandria, origenes);
     } else {
       return u"unknown driver "_s + motor;
     }

@@ -10,20 +10,14 @@
 #include "instalacion_prueba.h"
 #include "postgres_prueba.h"
 
-// The three ways the program reaches its database, for tests that must behave alike on all:
-//   "sqlite"      Qt's SQLite driver on a file;
-//   "odbc"        the suite's connection string through unixODBC and the SQLite ODBC driver,
-//                 with the data source defined in a private odbc.ini (ODBCSYSINI / ODBCINI);
-//   "postgresql"  the suite's connection string mapped by the installation to a throwaway
-//                 server (started on first use; a server that cannot start fails the test).
-// Build one per test program, in initTestCase, before any ODBC call.
+// The ways the program reaches its database: "sqlite" (Qt's driver on a file), "odbc" (the
+// suite's string through unixODBC and the SQLite ODBC driver, data source in a private odbc.ini)
+// and "postgresql" (the string mapped to a throwaway server). Build one per test program, in
+// initTestCase, before any ODBC call.
 class MotoresPrueba {
  public:
   MotoresPrueba();
-  ~MotoresPrueba();
 
-  // The main database's connection string, exactly as the program gives it.
-  static QString cadena() { return kCadenaVelandria; }
   // Adds one row per driver ("motor", QString) to a data-driven test.
   static void agregarFilas();
 

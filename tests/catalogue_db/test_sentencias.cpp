@@ -29,7 +29,6 @@ class TestSentencias : public QObject {
   void paresDeCadena();
   void instalacion();
   void aperturaFallida();
-  void servidorQueNoArranca();
 
  private:
   std::unique_ptr<MotoresPrueba> motores_;
@@ -235,15 +234,6 @@ void TestSentencias::aperturaFallida() {
   }
   QDir::setCurrent(antes);
   QVERIFY(QDir(carpeta.path()).isEmpty());
-}
-
-// Without the server's programs the test run fails with the reason; it never passes quietly.
-void TestSentencias::servidorQueNoArranca() {
-  qputenv("PRODUCTOS_PG_BIN", "/nonexistent/bin");
-  PostgresPrueba pg;
-  qunsetenv("PRODUCTOS_PG_BIN");
-  QVERIFY(!pg.arrancado());
-  QVERIFY2(pg.error().contains(u"initdb"_s), qPrintable(pg.error()));
 }
 
 QTEST_GUILESS_MAIN(TestSentencias)

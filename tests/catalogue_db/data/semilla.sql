@@ -1,6 +1,4 @@
--- A few rows in every table that the program's statements read, so that their joins and
--- sub-queries have something to work on. Codes are chosen so that the statements' own inserts do
--- not clash. One statement per line.
+-- Rows for the program's statements to read and join; codes apart from their own inserts.
 insert into opciones (identificador, idioma, tipo_programa, numdecimales) values ('INST1', 'CASTELLANO', 'RESTAURANTE', 2)
 insert into opciones_terminal (identificador, empleado, id_color, colorpredefinido, tipo_letra, aumento_x, aumento_y) values ('INST1T1', 12, 2, 0, 1, 100, 100)
 insert into listadostemporal (tipoprograma, list1, list2) values ('RESTAURANTE', 'INST1', 'T1')
