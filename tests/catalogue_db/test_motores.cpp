@@ -93,9 +93,13 @@ void TestMotores::conexion() {
   QVERIFY2(error.contains(u"password"_s) && !error.contains(u"Otra9"_s), qPrintable(error));
   origen.clave = PostgresPrueba::clave();
   origenes.mapear(u"velandria"_s, origen);
-  Conexion conClave;
-  conClave.abrir(u"dsn=velandria;pwd=otra;"_s, origenes);
-  QCOMPARE(Filas(conClave, u"select current_user"_s), QList<QVariantList>{{u"tpv"_s}});
+  {
+    Conexion conClave;
+    conClave.abrir(u"dsn=velandria;pwd=otra;"_s, origenes);
+    QCOMPARE(Filas(conClave, u"select current_user"_s), QList<QVariantList>{{u"tpv"_s}});
+  }
+  // A connection object that goes closes its session: the server drops the database at once.
+  QVERIFY(motores_->postgres()->ejecutarComoAdministrador(u"postgres"_s, u"drop database mapeo"_s));
   // Through psqlODBC the password reaches the server as written ("%QQ" is no escape), the engine
   // is told by the driver, and the text guard alone refuses a second statement: psqlODBC runs it.
   Conexion odbc;
