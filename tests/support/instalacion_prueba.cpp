@@ -48,7 +48,13 @@ bool InstalacionPrueba::usarPostgres(PostgresPrueba& servidor, const QString& ba
   entorno_->ConexionBD = std::make_unique<Conexion>();
   entorno_->ConexionBD->abrir(kCadenaVelandria, entorno_->instalacion.origenes);
   CrearEsquema(conexion(), TablasPrincipales());
-  return true;
+  QFile ini(QDir(dir_.path()).filePath(u"productos.ini"_s));
+  return ini.open(QIODevice::Append) &&
+         ini.write(
+             u"[dsn velandria]\ntipo=postgresql\nservidor=%1\npuerto=%2\nbasedatos=%3\n"
+             "usuario=%4\n"_s
+                 .arg(origen.servidor, QString::number(origen.puerto), base, origen.usuario)
+                 .toUtf8()) > 0;
 }
 
 void InstalacionPrueba::ejecutar(const QStringList& sentencias) {

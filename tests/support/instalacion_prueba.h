@@ -29,7 +29,7 @@ class InstalacionPrueba {
   QString rutaInformes() const;
 
   // Moves the shared connection to a new database of the test server, holding the main tables,
-  // as the data source "velandria"; false when the database cannot be made (the server's
+  // as the data source "velandria", in the entorno and in productos.ini; false when the database cannot be made (the server's
   // error() says why).
   bool usarPostgres(PostgresPrueba& servidor, const QString& base);
 
