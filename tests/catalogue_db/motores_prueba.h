@@ -57,9 +57,9 @@ QString ErrorDe(const std::function<void()>& accion);
     QVERIFY2(error_.isEmpty(), qPrintable(error_));                              \
   } while (false)
 
-// For tests whose global data rows are the drivers (MotoresPrueba::agregarFilas in
-// initTestCase_data): declares the connection `c`, open on a fresh database of the row's driver.
+// For tests whose data rows are the drivers (MotoresPrueba::agregarFilas): declares the
+// connection `c`, open on a fresh database of the row's driver.
 #define ABRIR_NUEVA_DEL_MOTOR(motores, ...) \
-  QFETCH_GLOBAL(QString, motor);            \
+  QFETCH(QString, motor);                   \
   Conexion c;                               \
   ABRIR_NUEVA(motores, c, motor, ##__VA_ARGS__)
