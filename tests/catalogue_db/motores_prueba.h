@@ -10,10 +10,8 @@
 #include "instalacion_prueba.h"
 #include "postgres_prueba.h"
 
-// The ways the program reaches its database: "sqlite" (Qt's driver on a file), "odbc" (the
-// suite's string through unixODBC and the SQLite ODBC driver, data source in a private odbc.ini)
-// and "postgresql" (the string mapped to a throwaway server). Build one per test program, in
-// initTestCase, before any ODBC call.
+// The drivers "sqlite", "odbc" (SQLite ODBC, private odbc.ini) and "postgresql" (test server).
+// Build one per test program, in initTestCase, before any ODBC call.
 class MotoresPrueba {
  public:
   MotoresPrueba();
@@ -57,8 +55,7 @@ QString ErrorDe(const std::function<void()>& accion);
     QVERIFY2(error_.isEmpty(), qPrintable(error_));                              \
   } while (false)
 
-// For tests whose data rows are the drivers (MotoresPrueba::agregarFilas): declares the
-// connection `c`, open on a fresh database of the row's driver.
+// Declares `c`, open on a fresh database of the data row's driver (MotoresPrueba::agregarFilas).
 #define ABRIR_NUEVA_DEL_MOTOR(motores, ...) \
   QFETCH(QString, motor);                   \
   Conexion c;                               \

@@ -8,8 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// productos-demo builds an installation that the program starts on without an error, with
-// families, products, colour schemes, a translation, help pages and pictures to show.
+// productos-demo builds an installation the program starts on without an error, with data.
 class TestDemo : public QObject {
   Q_OBJECT
  private slots:

@@ -1,6 +1,4 @@
-// The reliability suite. Short by default (the normal test run); PRODUCTOS_FIABILIDAD=larga runs
-// the long form: 20000 hostile fragments, 10 terminals x 200 new products, 100 kills.
-// The same executable, given "--terminal", is one terminal saving new products.
+// Short by default; PRODUCTOS_FIABILIDAD=larga runs the long form. "--terminal": one terminal.
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -35,8 +33,7 @@ ProductoFormulario Producto(const QString& nombre) {
   return p;
 }
 
-// One terminal of an installation folder: saves n new products, printing a '.' after each save,
-// then how many were saved and refused.
+// Saves n new products, a '.' after each, then prints how many were saved and refused.
 int Terminal(const QString& carpeta, int n) {
   DialogosGuion dialogos;
   Entorno entorno(Instalacion::Cargar(carpeta), dialogos);
@@ -58,8 +55,7 @@ QProcess* LanzarTerminal(const QStringList& argumentos, QObject* padre) {
   return p;
 }
 
-// What saves must never leave: a product without its stock row or its supplier link, a stock row
-// or link without its product, a code twice, or a gap in the codes (each is the largest plus one).
+// What saves must never leave: a product without stock row or link, or the reverse; a code twice.
 QStringList Violaciones(Conexion& c) {
   const auto codigos = [&](const QString& tabla, const QString& columna) {
     QList<qint64> l;
@@ -88,9 +84,7 @@ QList<QList<QVariantList>> Contenido(Conexion& c) {
   return tablas;
 }
 
-// Values that close the quotes of a statement and try to run one of their own, with every way
-// an engine or driver may read a text differently: dollar quotes with any tag, E'' and U&''
-// strings, backslashes, comments ended by CR or LF, nested comments, placeholders.
+// Values that close a statement's quotes and run one of their own, however an engine reads text.
 QStringList Fragmentos(int n) {
   QStringList f{u"'||$a?'$a$; delete from stock; --"_s, u"'||$€$'$€$; delete from stock; --"_s,
                 u"' --\r; delete from stock; --"_s};
@@ -132,9 +126,7 @@ class TestFiabilidad : public QObject {
   std::unique_ptr<MotoresPrueba> motores_;
 };
 
-// Every fragment goes into the name and barcode checks as typed, and into the search's
-// statement; in the long form also, without the text guard, straight to the engine. No table
-// may change.
+// Every fragment into the name and barcode checks and the search: no table may change.
 void TestFiabilidad::valoresHostilesNoEjecutanOtraSentencia() {
   QFETCH(QString, motor);
   InstalacionPrueba prueba;
@@ -186,8 +178,7 @@ void TestFiabilidad::enterosFueraDeRangoSeRechazanSinEscribir_data() {
   QTest::newRow("real") << u"menu_productos"_s << u"orden"_s << QVariant(-2147483649.0);
 }
 
-// An integer column refuses a value beyond 32 bits with the message the manager knows; a save
-// that meets one writes nothing.
+// An integer beyond 32 bits is refused with its message; a save that meets one writes nothing.
 void TestFiabilidad::enterosFueraDeRangoSeRechazanSinEscribir() {
   QFETCH(QString, tabla);
   QFETCH(QString, campo);
@@ -218,9 +209,7 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques_data() {
   QTest::newRow("postgresql") << u"postgresql"_s;
 }
 
-// Ten terminals, each its own process, create products at the same moment: every save is kept,
-// under codes that follow one another, each product with its stock row and its link. Meanwhile
-// one more terminal, creating a product under the code offered to it, accepts its suppliers.
+// Ten terminal processes create products at once: every save kept whole, under consecutive codes.
 void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
   QFETCH(QString, motor);
   const int terminales = 10, n = kLarga ? 200 : 10;
@@ -255,8 +244,7 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
            (QList<QVariantList>{{u"P01"_s}}));
 }
 
-// A terminal is killed (kill -9) again and again while it saves, after a varying number of
-// saves; after each kill the file passes SQLite's integrity check and every product is whole.
+// A terminal killed (-9) while it saves leaves a sound file and every product whole.
 void TestFiabilidad::matarDuranteGrabacionesDejaLaBaseIntegra() {
   InstalacionPrueba inst;
   const int muertes = kLarga ? 100 : 5;
@@ -277,8 +265,7 @@ void TestFiabilidad::matarDuranteGrabacionesDejaLaBaseIntegra() {
         qPrintable(inst.filas(u"select count(*) from productos"_s)[0][0].toString()));
 }
 
-// A log that cannot be written (here a folder stands where the file goes) stops nothing: each
-// error is still shown, and the manager is told once.
+// A log that cannot be written stops nothing: each error is shown, the manager told once.
 void TestFiabilidad::registroNoEscribibleNoDetieneNada() {
   InstalacionPrueba sinLog;
   QVERIFY(QDir(sinLog.carpeta()).mkdir(u"Errores.log"_s));

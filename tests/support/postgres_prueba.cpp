@@ -29,8 +29,7 @@ QString CarpetaBinarios() {
 
 }  // namespace
 
-// Under /tmp whatever TMPDIR says: the postgres user must reach the folder, and a socket's path
-// must stay short (about a hundred bytes at most).
+// Under /tmp whatever TMPDIR says: reachable by postgres, and a socket path stays short.
 PostgresPrueba::PostgresPrueba() : dir_(u"/tmp/productos-pg-XXXXXX"_s) {
   arrancado_ = arrancar();
 }

@@ -7,12 +7,8 @@
 
 class InstalacionPrueba;
 
-// A throwaway PostgreSQL server for one test run: a cluster made with initdb in a temporary
-// folder, reached only through a Unix socket in that folder (no TCP listener), with password
-// login for the user "tpv", stopped and removed when the object goes. initdb refuses to run as
-// root, so as root the server runs as the "postgres" system user, owner of the folder.
-// The binaries are taken from PRODUCTOS_PG_BIN, else the newest /usr/lib/postgresql/*/bin.
-// When the server cannot start, arrancado() is false and error() says why.
+// A throwaway server (initdb in a temporary folder, socket only, password login for "tpv"; as
+// postgres when run as root). Binaries: PRODUCTOS_PG_BIN, else the newest installed.
 class PostgresPrueba {
  public:
   PostgresPrueba();
@@ -25,12 +21,9 @@ class PostgresPrueba {
   QString carpetaSocket() const { return dir_.path(); }
   int puerto() const { return 5432; }  // names the socket file only: the folder is private
   static QString usuario() { return QStringLiteral("tpv"); }
-  // The suite's shared password, the one that its connection strings carry.
   static QString clave() { return QStringLiteral("KorvanitesX%QQRT"); }
 
-  // Creates an empty database (UTF-8) and returns the data source that reaches it; the password
-  // is left empty so that the connection string's pwd= is the one used. On failure the data
-  // source names no database.
+  // A new empty database's data source (no password: pwd= is used); no database on failure.
   OrigenDatos crearBaseDatos(const QString& nombre);
   // Runs a statement as the server's superuser on a database; false with error() on failure.
   bool ejecutarComoAdministrador(const QString& baseDatos, const QString& sentencia);
