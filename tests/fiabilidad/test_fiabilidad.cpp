@@ -1,7 +1,6 @@
 // Short by default; PRODUCTOS_FIABILIDAD=larga runs the long form. "--terminal": one terminal.
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSqlQuery>
@@ -218,8 +217,6 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
     QVERIFY(motores_->postgres() && otra.usarPostgres(*motores_->postgres(), u"terminales"_s));
   Conexion& c = otra.conexion();
   const qint64 ofrecido = CodigoProductoNuevo(c);  // at "Nuevo", before the ten save
-  QElapsedTimer reloj;
-  reloj.start();
   QList<QProcess*> procesos;
   for (int i = 0; i < terminales; ++i)
     procesos.append(LanzarTerminal({otra.carpeta(), QString::number(n)}, this));
@@ -234,8 +231,8 @@ void TestFiabilidad::terminalesALaVezGuardanTodoSinChoques() {
   QVERIFY2(rechazados == 0, otra.log().constData());
   QCOMPARE(grabados, terminales * n);
   QCOMPARE(Violaciones(c), QStringList());
-  qInfo("%s: %d terminales x %d: %d grabados, 0 violaciones, %lld ms", qPrintable(motor),
-        terminales, n, grabados, reloj.elapsed());
+  qInfo("%s: %d terminales x %d: %d grabados, 0 violaciones", qPrintable(motor), terminales, n,
+        grabados);
   // Its suppliers, accepted now, go under the next free code, not onto the saved product 1.
   QCOMPARE(GuardarProveedoresProductoNuevo(otra.entorno(), ofrecido,
                                            {LineaProveedor(u"Dos"_s, u"P02"_s)}),
