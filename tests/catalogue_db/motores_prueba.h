@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 #include "conexion.h"
@@ -9,22 +10,12 @@
 #include "instalacion_prueba.h"
 #include "postgres_prueba.h"
 
-// The three ways the program reaches its database, for tests that must behave alike on all:
-//   "sqlite"      Qt's SQLite driver on a file;
-//   "odbc"        the suite's connection string through unixODBC and the SQLite ODBC driver,
-//                 with the data source defined in a private odbc.ini (ODBCSYSINI / ODBCINI);
-//   "postgresql"  the suite's connection string mapped by the installation to a throwaway
-//                 server (started on first use; a server that cannot start fails the test);
-//   "odbc-postgresql"  the same server through unixODBC and psqlODBC, by a data source of the
-//                 private odbc.ini.
+// The drivers "sqlite", "odbc" (SQLite ODBC, private odbc.ini) and "postgresql" (test server).
 // Build one per test program, in initTestCase, before any ODBC call.
 class MotoresPrueba {
  public:
   MotoresPrueba();
-  ~MotoresPrueba();
 
-  // The main database's connection string, exactly as the program gives it.
-  static QString cadena() { return QStringLiteral("dsn=velandria;pwd=KorvanitesX%QQRT;"); }
   // Adds one row per driver ("motor", QString) to a data-driven test.
   static void agregarFilas();
 
@@ -35,28 +26,37 @@ class MotoresPrueba {
   // The file behind the "velandria" ODBC data source.
   QString archivoOdbc() const { return dir_.filePath(QStringLiteral("velandria_odbc.db")); }
   PostgresPrueba* postgres();
-  // Why the server could not start, when postgres() gave nothing.
-  QString errorPostgres() const { return postgres_ ? postgres_->error() : QString(); }
+  // Opens the data source "lumbraCopas" of the private odbc.ini, a new database "copas" of the
+  // test server reached through psqlODBC, by the suite's connection string for that program type.
+  QString abrirPorPsqlOdbc(Conexion& conexion);
 
  private:
-  // Defines "velandria" (SQLite) and, given a database, "lumbraCopas" (PostgreSQL) for ODBC.
-  bool escribirOdbcIni(const OrigenDatos& postgres);
-
   QTemporaryDir dir_;
   std::unique_ptr<PostgresPrueba> postgres_;
   int bases_ = 0;
 };
 
-// Opens a fresh database on the current row's driver or fails the test function.
+// One statement of the program with sample values spliced in, and the text each engine must
+// receive after the dialect rewrites (data/dialect-vectors.json).
+struct VectorSentencia {
+  QString id, texto, sqlite, sqliteOdbc, postgres;
+};
+QList<VectorSentencia> CargarVectores();
+// Runs data/semilla.sql: a few rows in every table that the program's statements read.
+void Sembrar(Conexion& conexion);
+
+// The description of the database error that the action throws; "(no error)" when none.
+QString ErrorDe(const std::function<void()>& accion);
+
+// Opens a fresh database on the driver or fails the test function.
 #define ABRIR_NUEVA(motores, conexion, motor, ...)                               \
   do {                                                                           \
     const QString error_ = (motores).abrirNueva(conexion, motor, ##__VA_ARGS__); \
     QVERIFY2(error_.isEmpty(), qPrintable(error_));                              \
   } while (false)
 
-// For tests whose global data rows are the drivers (MotoresPrueba::agregarFilas in
-// initTestCase_data): declares the connection `c`, open on a fresh database of the row's driver.
+// Declares `c`, open on a fresh database of the data row's driver (MotoresPrueba::agregarFilas).
 #define ABRIR_NUEVA_DEL_MOTOR(motores, ...) \
-  QFETCH_GLOBAL(QString, motor);            \
+  QFETCH(QString, motor);                   \
   Conexion c;                               \
   ABRIR_NUEVA(motores, c, motor, ##__VA_ARGS__)

@@ -8,39 +8,23 @@
 
 #include "esquema.h"
 #include "postgres_prueba.h"
-#include "recordset.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-void CrearBase(const QString& ruta, const QList<Tabla>& tablas) {
-  Conexion c;
-  c.abrirSQLite(ruta);
-  CrearEsquema(c, tablas);
-}
-
-void EjecutarEn(const QString& ruta, const QStringList& sentencias) {
-  Conexion c;
-  c.abrirSQLite(ruta);
-  for (const QString& s : sentencias)
-    c.ejecutar(s);
-}
-
-}  // namespace
-
 InstalacionPrueba::InstalacionPrueba() {
-  if (!dir_.isValid())
-    throw std::runtime_error("no temporary folder");
-  CrearBase(rutaPrincipal(), TablasPrincipales());
-  CrearBase(rutaInformes(), TablasInformes());
   QFile ini(QDir(dir_.path()).filePath(u"productos.ini"_s));
-  if (!ini.open(QIODevice::WriteOnly))
-    throw std::runtime_error("no productos.ini");
+  if (!dir_.isValid() || !ini.open(QIODevice::WriteOnly))
+    throw std::runtime_error("no temporary folder");
   ini.write(
       "[dsn velandria]\ntipo=sqlite\narchivo=velandria.db\n\n"
       "[dsn informes]\ntipo=sqlite\narchivo=informes.db\n");
   ini.close();
+  for (const auto& [ruta, tablas] : {std::pair(rutaPrincipal(), TablasPrincipales()),
+                                     std::pair(rutaInformes(), TablasInformes())}) {
+    Conexion c;
+    c.abrirSQLite(ruta);
+    CrearEsquema(c, tablas);
+  }
   entorno_ = std::make_unique<Entorno>(Instalacion::Cargar(dir_.path()), dialogos_);
   entorno_->registro.setMostrar([this](const QString& contexto, const QString& descripcion) {
     errores_.append({contexto, descripcion});
@@ -62,10 +46,15 @@ bool InstalacionPrueba::usarPostgres(PostgresPrueba& servidor, const QString& ba
     return false;
   entorno_->instalacion.origenes.mapear(u"velandria"_s, origen);
   entorno_->ConexionBD = std::make_unique<Conexion>();
-  entorno_->ConexionBD->abrir(u"dsn=velandria;pwd="_s + PostgresPrueba::clave() + u";"_s,
-                              entorno_->instalacion.origenes);
+  entorno_->ConexionBD->abrir(kCadenaVelandria, entorno_->instalacion.origenes);
   CrearEsquema(conexion(), TablasPrincipales());
-  return true;
+  QFile ini(QDir(dir_.path()).filePath(u"productos.ini"_s));
+  return ini.open(QIODevice::Append) &&
+         ini.write(
+             u"[dsn velandria]\ntipo=postgresql\nservidor=%1\npuerto=%2\nbasedatos=%3\n"
+             "usuario=%4\n"_s
+                 .arg(origen.servidor, QString::number(origen.puerto), base, origen.usuario)
+                 .toUtf8()) > 0;
 }
 
 void InstalacionPrueba::ejecutar(const QStringList& sentencias) {
@@ -74,7 +63,10 @@ void InstalacionPrueba::ejecutar(const QStringList& sentencias) {
 }
 
 void InstalacionPrueba::ejecutarEnInformes(const QStringList& sentencias) {
-  EjecutarEn(rutaInformes(), sentencias);
+  Conexion c;
+  c.abrirSQLite(rutaInformes());
+  for (const QString& s : sentencias)
+    c.ejecutar(s);
 }
 
 QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta) {

@@ -13,10 +13,8 @@ class PostgresPrueba;
 // The rows of a query, each as its values in column order.
 QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta);
 
-// A throwaway installation for a test: a temporary program folder holding an empty main
-// database ("velandria.db") and reports database ("informes.db") with the schema, a
-// "productos.ini" that maps "velandria" and "informes" to them, a scripted dialog service and an
-// error log whose shown entries are recorded. The shared connection is open on the main database.
+// A temporary program folder: velandria.db and informes.db mapped by productos.ini, scripted
+// dialogs, shown errors recorded; the shared connection open on velandria.db.
 class InstalacionPrueba {
  public:
   InstalacionPrueba();
@@ -28,16 +26,13 @@ class InstalacionPrueba {
   QString rutaPrincipal() const;
   QString rutaInformes() const;
 
-  // Moves the shared connection to a new database of the test server, holding the main tables,
-  // as the data source "velandria"; false when the database cannot be made (the server's
-  // error() says why).
+  // Maps "velandria" (here and in productos.ini) to a new server database; false: see error().
   bool usarPostgres(PostgresPrueba& servidor, const QString& base);
 
-  // Runs statements of the test's own on the main database (several, one after another).
+  // Runs statements on the main database.
   void ejecutar(const QStringList& sentencias);
   // Runs statements on the reports database.
   void ejecutarEnInformes(const QStringList& sentencias);
-  // The rows of a query on the main database, each as its values in column order.
   QList<QVariantList> filas(const QString& consulta) { return FilasDe(conexion(), consulta); }
   // The error log's bytes.
   QByteArray log() const;

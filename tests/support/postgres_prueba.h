@@ -7,13 +7,8 @@
 
 class InstalacionPrueba;
 
-// A throwaway PostgreSQL server for one test run: a cluster made with initdb in a temporary
-// folder, reached only through a Unix socket in that folder (no TCP listener), with password
-// login for the user "tpv", stopped and removed when the object goes. initdb refuses to run as
-// root, so as root the server runs as the "postgres" system user, owner of the folder.
-//
-// The binaries are taken from PRODUCTOS_PG_BIN, else the newest /usr/lib/postgresql/*/bin,
-// else the PATH. When the server cannot start, arrancado() is false and error() says why.
+// A throwaway server (initdb in a temporary folder, socket only, password login for "tpv"; as
+// postgres when run as root). Binaries: PRODUCTOS_PG_BIN, else the newest installed.
 class PostgresPrueba {
  public:
   PostgresPrueba();
@@ -24,13 +19,11 @@ class PostgresPrueba {
   bool arrancado() const { return arrancado_; }
   const QString& error() const { return error_; }
   QString carpetaSocket() const { return dir_.path(); }
-  int puerto() const { return puerto_; }
-  static QString usuario();
-  // The suite's shared password, the one that its connection strings carry.
-  static QString clave();
+  int puerto() const { return 5432; }  // names the socket file only: the folder is private
+  static QString usuario() { return QStringLiteral("tpv"); }
+  static QString clave() { return QStringLiteral("KorvanitesX%QQRT"); }
 
-  // Creates an empty database (UTF-8) and returns the data source that reaches it; the password
-  // is left empty so that the connection string's pwd= is the one used.
+  // A new empty database's data source (no password: pwd= is used); no database on failure.
   OrigenDatos crearBaseDatos(const QString& nombre);
   // Runs a statement as the server's superuser on a database; false with error() on failure.
   bool ejecutarComoAdministrador(const QString& baseDatos, const QString& sentencia);
@@ -38,12 +31,9 @@ class PostgresPrueba {
  private:
   bool arrancar();
   bool ejecutarPrograma(const QString& programa, const QStringList& argumentos);
-  QString carpetaDatos() const;
-  QString rutaLog() const;
 
   QTemporaryDir dir_;
   QString binarios_;
-  int puerto_ = 0;
   bool comoRoot_ = false;
   bool arrancado_ = false;
   QString error_;
