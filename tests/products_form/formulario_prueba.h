@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QColor>
+#include <QDate>
 #include <QLineEdit>
 #include <QList>
+#include <QListWidget>
 #include <QPair>
 #include <QString>
 #include <QStringList>
@@ -10,6 +14,7 @@
 #include <memory>
 
 #include "frm_productos.h"
+#include "grabacion_producto.h"
 #include "instalacion_prueba.h"
 #include "paneles.h"
 
@@ -58,6 +63,21 @@ inline bool Visible(FormularioPrueba& f, const QString& nombre) {
   return w && w->isVisible();
 }
 
+// Whether a control of the form is there and enabled.
+inline bool Activo(FormularioPrueba& f, const QString& nombre) {
+  const QWidget* w = f.control<QWidget>(nombre);
+  return w && w->isEnabled();
+}
+
+// Each control of the names separated by blanks is on show (or enabled) as expected.
+void Exigir(FormularioPrueba& f, bool (*estado)(FormularioPrueba&, const QString&),
+            const QString& nombres, bool esperado);
+
+// The text of a field or a label of the form.
+QString Texto(FormularioPrueba& f, const QString& nombre);
+// The lines of a list of the form, in order.
+QStringList Lineas(FormularioPrueba& f, const QString& lista);
+
 // Touches a field near its left edge, as a finger would; returns it (null when there is none).
 inline QLineEdit* TocarCampo(FormularioPrueba& f, const QString& nombre) {
   auto* campo = f.control<QLineEdit>(nombre);
@@ -77,6 +97,69 @@ QString Producto(const QString& codigo, const QString& nombre,
 QString Stock(const QString& codigo, const QString& stock, const QString& minimo);
 // The insert of a printer.
 QString Impresora(int codigo, const QString& nombre);
+// The insert of a live supplier.
+QString Proveedor(const QString& codigo, const QString& nombre);
+// The insert of a live family, not shown on the till.
+QString Familia(const QString& codigo, const QString& nombre, int orden);
+
+// Touches a field, rubs out what it holds with Backspace and types the text with real keys:
+// what a manager does whether or not the touch selected the whole text.
+void Escribir(FormularioPrueba& f, const QString& nombre, const QString& texto);
+// Touches the line of a list that starts with the text.
+void TocarLinea(FormularioPrueba& f, const QString& lista, const QString& texto);
+// Touches a family's button on a families panel, paging forward until it shows.
+void TocarFamilia(FormularioPrueba& f, const QString& familia,
+                  const QString& panel = QStringLiteral("PanelFamilias"));
+
+// Every column of a product row, in the order of the table; the stock row's; the supplier links.
+inline const QString kColumnasProducto = QStringLiteral(
+    "select codigo, nombre, descripcion, codigobarras, seccion, coste, MargenComercial, Precio, "
+    "IVA, FechaAlta, Foto, color, proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
+    "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar from productos ");
+inline const QString kColumnasStock =
+    QStringLiteral("select Producto, Stock, StockMinimo, ConsumicionesDisponibles from stock ");
+inline const QString kEnlaces = QStringLiteral(
+    "select producto, proveedor, coste from productoproveedor order by producto, proveedor");
+
+inline QString Hoy() {
+  return QDate::currentDate().toString(Qt::ISODate);
+}
+
+// Checks a row written against the values expected, column by column: a text must be a text, a
+// real and an integer are compared as numbers (each engine hands numbers back in types of its
+// own), a null must be null, anything else as it is.
+template <typename... Valores>
+void CompararFila(const QVariantList& fila, const Valores&... valores) {
+  const QVariantList esperado{QVariant(valores)...};
+  QCOMPARE(fila.size(), esperado.size());
+  for (qsizetype i = 0; i < fila.size(); ++i) {
+    const QVariant &v = fila.at(i), &e = esperado.at(i);
+    bool igual = v == e;
+    if (!e.isValid())
+      igual = v.isNull();
+    else if (e.typeId() == QMetaType::Int || e.typeId() == QMetaType::LongLong)
+      igual = !v.isNull() && v.toLongLong() == e.toLongLong();
+    else if (e.typeId() == QMetaType::QString)
+      igual = v.typeId() == QMetaType::QString && v.toString() == e.toString();
+    else if (e.typeId() == QMetaType::Double)
+      igual = !v.isNull() &&
+              (v.toDouble() == e.toDouble() || qFuzzyCompare(v.toDouble(), e.toDouble()));
+    QVERIFY2(
+        igual,
+        qPrintable(
+            QStringLiteral("column %1: %2, expected %3").arg(i).arg(v.toString(), e.toString())));
+  }
+}
+
+// A draught beer as the form hands it to the save: every field filled, amounts typed with the
+// Spanish separator, two suppliers, the main one first.
+ProductoFormulario Cana();
+
+// A real picture of one colour padded to an exact size in bytes (readers ignore what follows
+// the picture's end), written into a folder; returns its path.
+QString Imagen(const QString& carpeta, const QString& nombre, qint64 bytes, const QColor& color);
+// A file's bytes; empty when it cannot be read.
+QByteArray Contenido(const QString& ruta);
 
 // Gives the offscreen platform a screen of that size (its own is 800×800).
 void UsarPantalla(int ancho, int alto);

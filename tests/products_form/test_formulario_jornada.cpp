@@ -4,15 +4,21 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "color_vb.h"
+#include "colorear.h"
 #include "datos_catalogo.h"
 #include "formulario_prueba.h"
-#include "imagen_prueba.h"
+#include "importes.h"
 #include "panel_obj_nuevo.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-// A manager's day on the form, on the screen PRODUCTOS_PANTALLA (1024x768 when unset).
+// A manager's day on the form, by keyboard and by touch, on the screen PRODUCTOS_PANTALLA
+// (1024x768 when unset): the keys, the on-screen keyboard, the amounts, the looks.
 namespace {
+
+const QColor kFoco = ColorDesdeValor(kColorFocoPrueba);
+const QColor kCampo = ColorDesdeValor(kColorCampoPrueba);
 
 QSize Pantalla() {
   const QStringList p = qEnvironmentVariable("PRODUCTOS_PANTALLA", u"1024x768"_s).split(u'x');
@@ -67,6 +73,14 @@ FormularioPrueba* Abrir(const QStringList& filas = {}, const QString& enCaja = u
   return f;
 }
 
+// Presses keys of the on-screen keyboard: one character each, "\b" Backspace, "\r" Enter.
+void Teclear(FormularioPrueba& f, const QString& teclas) {
+  for (QChar c : teclas) {
+    const int codigo = c == u'\b' ? 8 : c == u'\r' ? 13 : c.unicode();
+    Pulsar(f, u"bt_letra_%1"_s.arg(codigo));
+  }
+}
+
 // Best contrast against the most common colour, and height of the rows holding 3:1 or more.
 QPair<double, int> Tinta(const QWidget* w, int izq) {
   const QImage im = w->window()->grab(EnVentana(w).adjusted(izq, 6, -6, -6)).toImage();
@@ -104,6 +118,11 @@ class TestFormularioJornada : public QObject {
   void losCamposBloqueadosSeLeen();
   void elTipoDeLetraYElAumento();
   void cadaPantallaEnteraYLegible();
+  void elTecladoEnPantalla();
+  void elFocoPintaElCampoYSusTeclasPasanLaRegla();
+  void elCosteElIvaYElMargen();
+  void laCantidadDeUnComponente();
+  void elElaboradoMuestraSusCamposPasoAPaso();
 };
 
 void TestFormularioJornada::unProductoSeCreaSoloConElTeclado() {
@@ -231,6 +250,178 @@ void TestFormularioJornada::cadaPantallaEnteraYLegible() {
     QVERIFY2(fallos.isEmpty(), qPrintable(boton + u": "_s + fallos.join(u' ')));
     QTest::mouseClick(f->control<QPushButton>(boton), Qt::LeftButton);
   }
+}
+
+void TestFormularioJornada::elTecladoEnPantalla() {
+  std::unique_ptr<FormularioPrueba> f(Abrir());
+  // With no field touched yet, the keys do nothing.
+  QVERIFY(!f->forma().importes().campoActual());
+  Teclear(*f, u"A1\b\r"_s);
+  // A locked field: a whole selection is cleared before the lock is looked at, as it always
+  // was, but nothing is written.
+  QLineEdit* nombre = TocarCampo(*f, u"txt_nombre"_s);
+  QCOMPARE(nombre->selectedText(), u"Harina"_s);
+  Teclear(*f, u"X"_s);
+  QCOMPARE(nombre->text(), QString());
+  Teclear(*f, u"X\b"_s);
+  QCOMPARE(nombre->text(), QString());
+
+  Pulsar(*f, u"cmd_modificar"_s);
+  QList<double> aceptadas;
+  f->forma().importes().aceptarCantidad = [&](double c) { aceptadas.append(c); };
+  QLineEdit* descripcion = TocarCampo(*f, u"txt_descripcion"_s);
+  QTRY_COMPARE(f->forma().importes().campoActual(), descripcion);
+  // Written at the end whatever the caret, the last one rubbed out; the focus stays.
+  Teclear(*f, u"BAR"_s);
+  descripcion->home(false);
+  Teclear(*f, u"\u00D1 1\b\b\r"_s);
+  QCOMPARE(descripcion->text(), u"BAR\u00D1"_s);
+  QCOMPARE(QApplication::focusWidget(), descripcion);
+  QVERIFY(aceptadas.isEmpty());
+  // The description's keys mark the suppliers' button as the next step.
+  QCOMPARE(ColorFondo(f->control<QWidget>(u"cmd_Proveedor"_s)), kFoco);
+  descripcion->selectAll();
+  Teclear(*f, u"X"_s);
+  QCOMPARE(descripcion->text(), u"X"_s);
+  // An amount: a refused key still appends, the character of code 0.
+  QLineEdit* coste = TocarCampo(*f, u"txt_coste"_s);
+  coste->clear();
+  Teclear(*f, u"3,257"_s);
+  QCOMPARE(coste->text(), u"3,25"_s + QChar(0));
+  // In the quantity of a component, Enter accepts a quantity above 0.
+  MostrarMarco(f->control<QWidget>(u"fr_Cantidad"_s));
+  TocarCampo(*f, u"txt_Cantidad"_s)->setText(u"0"_s);
+  Teclear(*f, u"\r\b3\r"_s);
+  QCOMPARE(aceptadas, QList<double>{3.0});
+  QCOMPARE(Texto(*f, u"txt_Cantidad"_s), QString());
+}
+
+void TestFormularioJornada::elFocoPintaElCampoYSusTeclasPasanLaRegla() {
+  std::unique_ptr<FormularioPrueba> f(Abrir());
+  Pulsar(*f, u"cmd_modificar"_s);
+  // Change mode gives the name the focus; a touch in a field that has it only moves the caret.
+  TocarCampo(*f, u"txt_descripcion"_s);
+  QLineEdit* nombre = TocarCampo(*f, u"txt_nombre"_s);
+  QTRY_COMPARE(f->forma().importes().campoActual(), nombre);
+  QCOMPARE(ColorFondo(nombre), kFoco);
+  QCOMPARE(nombre->selectedText(), u"Harina"_s);
+  QTest::keyClicks(nombre, u"Agua"_s);
+  QCOMPARE(nombre->text(), u"Agua"_s);
+  QLineEdit* coste = TocarCampo(*f, u"txt_coste"_s);
+  QCOMPARE(ColorFondo(coste), kFoco);
+  QCOMPARE(ColorFondo(nombre), kCampo);
+  // A rejected key still clears a whole selection: the key was meant to replace it.
+  QTest::keyClicks(coste, u"a"_s);
+  QCOMPARE(coste->text(), QString());
+  QTest::keyClicks(coste, u"1.5,2"_s);
+  QCOMPARE(coste->text(), u"1,52"_s);
+  QTest::keyClick(coste, Qt::Key_Backspace);
+  QCOMPARE(coste->text(), u"1,5"_s);
+  QLineEdit* minimo = TocarCampo(*f, u"txt_stock_minimo"_s);
+  QCOMPARE(minimo->selectedText(), u"1"_s);
+  QTest::keyClicks(minimo, u"2,5a."_s);
+  QCOMPARE(minimo->text(), u"25"_s);
+}
+
+void TestFormularioJornada::elCosteElIvaYElMargen() {
+  std::unique_ptr<FormularioPrueba> f(Abrir());
+  Pulsar(*f, u"cmd_modificar"_s);
+  auto* margen = f->control<QLineEdit>(u"txt_margen"_s);
+  auto* precio = f->control<QLineEdit>(u"txt_precio"_s);
+  // The margin with no cost: a notice for each key, and the key goes in.
+  f->control<QLineEdit>(u"txt_coste"_s)->clear();
+  TocarCampo(*f, u"txt_margen"_s);
+  QTest::keyClicks(margen, u"7x"_s);
+  const QString aviso = u"Debe Indicar Antes una Cantidad para el coste y para el iva"_s;
+  QCOMPARE(f->dialogos().mensajes(), (QStringList{aviso, aviso}));
+  QCOMPARE(f->dialogos().llamadas().first().titulo, QString());
+  QCOMPARE(margen->text(), u"7x"_s);
+  // The cost marks the tax, the tax the price.
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"10"_s);
+  QCOMPARE(ColorFondo(f->control<QWidget>(u"txt_iva"_s)), kFoco);
+  QCOMPARE(ColorFondo(precio), kCampo);
+  QTest::keyClicks(TocarCampo(*f, u"txt_iva"_s), u"10"_s);
+  QCOMPARE(ColorFondo(precio), kFoco);
+  // The margin gives the price; the price's change works the margin out again, tax on the
+  // margin included.
+  margen->setText(u"5"_s);
+  QTest::keyClick(margen, Qt::Key_Return);
+  QCOMPARE(precio->text(), u"16,50"_s);
+  QCOMPARE(margen->text(), u"5,50"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"1000"_s);
+  margen->setText(u"122,5"_s);
+  QTest::keyClick(margen, Qt::Key_Enter);
+  QCOMPARE(precio->text(), u"1.234,75"_s);
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  margen->setText(u"5"_s);
+  f->control<QLineEdit>(u"txt_coste"_s)->setText(u"10"_s);
+  QTest::keyClick(margen, Qt::Key_Return);
+  QCOMPARE(precio->text(), u"16.50"_s);
+  QCOMPARE(margen->text(), u"5.50"_s);
+  QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+  // A price typed gives the margin; with no cost the cost becomes 0 and the margin stays.
+  f->control<QLineEdit>(u"txt_coste"_s)->setText(u"100"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_precio"_s), u"121"_s);
+  QCOMPARE(margen->text(), u"11,00"_s);
+  f->control<QLineEdit>(u"txt_coste"_s)->clear();
+  QTest::keyClicks(TocarCampo(*f, u"txt_precio"_s), u"5"_s);
+  QCOMPARE(Texto(*f, u"txt_coste"_s), u"0"_s);
+  QCOMPARE(margen->text(), u"11,00"_s);
+  // A new product's price brings what follows it.
+  Pulsar(*f, u"cmd_cancelar"_s);
+  Pulsar(*f, u"cmd_nuevo"_s);
+  QVERIFY(Visible(*f, u"frOcultarGen"_s) && !Visible(*f, u"ch_Mostrar"_s));
+  precio->setText(u"3"_s);
+  QVERIFY(!Visible(*f, u"frOcultarGen"_s));
+  Exigir(*f, &Visible, u"ch_Mostrar lblPreparado optCocina optBarra"_s, true);
+}
+
+void TestFormularioJornada::laCantidadDeUnComponente() {
+  std::unique_ptr<FormularioPrueba> f(Abrir());
+  Pulsar(*f, u"cmd_modificar"_s);
+  QList<double> aceptadas;
+  int descartadas = 0;
+  f->forma().importes().aceptarCantidad = [&](double c) { aceptadas.append(c); };
+  f->forma().importes().descartarCantidad = [&] { ++descartadas; };
+  auto* cantidad = f->control<QLineEdit>(u"txt_Cantidad"_s);
+  cantidad->setText(u"0"_s);
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  cantidad->clear();
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  QTest::keyClicks(cantidad, u"2.5"_s);
+  QCOMPARE(cantidad->text(), u"2,5"_s);
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  QCOMPARE(aceptadas, QList<double>{2.5});
+  QCOMPARE(cantidad->text(), QString());
+  // No clearing of a whole selection: a rejected key leaves the quantity as it was.
+  cantidad->setText(u"12"_s);
+  cantidad->selectAll();
+  QTest::keyClicks(cantidad, u"x"_s);
+  QCOMPARE(cantidad->text(), u"12"_s);
+  QTest::keyClick(cantidad, Qt::Key_Escape);
+  QCOMPARE(descartadas, 1);
+}
+
+void TestFormularioJornada::elElaboradoMuestraSusCamposPasoAPaso() {
+  std::unique_ptr<FormularioPrueba> f(
+      Abrir({Producto(u"2"_s, u"Tortilla"_s), Stock(u"2"_s, u"0"_s, u"0"_s),
+             u"insert into productoElaborado_producto values ('2', '1', 3)"_s}));
+  Pulsar(*f, u"cmd_salir"_s);
+  Pulsar(*f, u"cmd_ProdElaborado"_s);
+  Pulsar(*f, u"cmd_ModificarProdEla"_s);
+  Exigir(*f, &Visible, u"txt_ImpuestoElaborado txt_PrecioElaborado"_s, true);
+  QLineEdit* coste = TocarCampo(*f, u"txt_costeElaborado"_s);
+  QTest::keyClick(coste, Qt::Key_Backspace);
+  Exigir(*f, &Visible, u"txt_ImpuestoElaborado lbl_ImpuestoElaborado"_s, false);
+  QTest::keyClicks(coste, u"2"_s);
+  Exigir(*f, &Visible, u"txt_ImpuestoElaborado lbl_ImpuestoElaborado"_s, true);
+  QLineEdit* iva = TocarCampo(*f, u"txt_ImpuestoElaborado"_s);
+  QTest::keyClick(iva, Qt::Key_Backspace);
+  Exigir(*f, &Visible, u"txt_PrecioElaborado lbl_PrecioElaborado"_s, false);
+  // The tax of an elaborated product takes any key, as it always has.
+  Teclear(*f, u"4A"_s);
+  QCOMPARE(iva->text(), u"4A"_s);
+  QVERIFY(Visible(*f, u"txt_PrecioElaborado"_s));
 }
 
 int main(int argc, char** argv) {

@@ -4,12 +4,11 @@
 
 #include "codigos_producto.h"
 #include "esquema.h"
+#include "formulario_prueba.h"
 #include "grabacion_producto.h"
-#include "instalacion_prueba.h"
 #include "listas_productos.h"
 #include "postgres_prueba.h"
 #include "principal.h"
-#include "producto_prueba.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,0 +1,591 @@
+#include <QtTest>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "color_vb.h"
+#include "colorear.h"
+#include "formulario_prueba.h"
+#include "listas_productos.h"
+#include "panel_obj_nuevo.h"
+#include "visualizacion.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// The form's load, its modes, and what it shows of the products as a manager walks them.
+namespace {
+
+// Agua shows every column; Bocadillo has a deleted printer, no family, no colour, and is hidden
+// from the till; Café's picture is missing; Zumo has no stock row; Tortilla is elaborated from
+// Agua; Viejo is deleted.
+QStringList Catalogo() {
+  return {Proveedor(u"P1"_s, u"Distribuciones Sur"_s),
+          Familia(u"F1"_s, u"Cervezas"_s, 2),
+          Familia(u"F2"_s, u"Cafés"_s, 1),
+          u"insert into seccion (codigo, nombre, borrar, menu, orden) values "
+          "('F3', 'Menú del día', 0, -1, 0), ('F4', 'Vieja', -1, 0, 3)"_s,
+          Impresora(3, u"Barra"_s),
+          Producto(u"1"_s, u"Agua"_s,
+                   {{u"coste"_s, u"0.6"_s},
+                    {u"precio"_s, u"1.76"_s},
+                    {u"margencomercial"_s, u"0.5"_s},
+                    {u"seccion"_s, u"'F1'"_s},
+                    {u"codigobarras"_s, u"'8410000000017'"_s},
+                    {u"orden"_s, u"4"_s},
+                    {u"descripcion"_s, u"'De manantial'"_s},
+                    {u"foto"_s, u"'agua.png'"_s},
+                    {u"color"_s, u"255"_s},
+                    {u"descnumerica"_s, u"12"_s},
+                    {u"proveedor"_s, u"'P1'"_s},
+                    {u"unidadMedida"_s, u"'Litros'"_s},
+                    {u"hechoen"_s, u"2"_s},
+                    {u"impresora"_s, u"3"_s},
+                    {u"tipoprod"_s, u"2"_s},
+                    {u"productoespecial"_s, u"-1"_s}}),
+          Stock(u"1"_s, u"24"_s, u"6"_s),
+          Producto(u"2"_s, u"Bocadillo"_s,
+                   {{u"hechoen"_s, u"0"_s},
+                    {u"mostrarencaja"_s, u"-1"_s},
+                    {u"impresora"_s, u"7"_s},
+                    {u"tipoprod"_s, u"0"_s},
+                    {u"color"_s, u"null"_s}}),
+          Stock(u"2"_s, u"0"_s, u"null"_s),
+          Producto(u"3"_s, u"Café"_s, {{u"foto"_s, u"'falta.png'"_s}}),
+          Stock(u"3"_s, u"0"_s, u"0"_s),
+          Producto(u"4"_s, u"Zumo"_s),
+          Producto(u"5"_s, u"Tortilla"_s,
+                   {{u"coste"_s, u"2.5"_s},
+                    {u"precio"_s, u"6"_s},
+                    {u"seccion"_s, u"'F1'"_s},
+                    {u"descripcion"_s, u"'De patatas'"_s},
+                    {u"descnumerica"_s, u"31"_s},
+                    {u"orden"_s, u"null"_s},
+                    {u"impresora"_s, u"3"_s},
+                    {u"color"_s, u"65280"_s}}),
+          Stock(u"5"_s, u"0"_s, u"0"_s),
+          u"insert into productoElaborado_producto values ('5', '1', 3)"_s,
+          Producto(u"9"_s, u"Viejo"_s, {{u"borrar"_s, u"-1"_s}})};
+}
+
+// A form on the simple products' screen; the pictures are in the photo folder.
+void Abrir(FormularioPrueba& f) {
+  const QString fotos = f.inst().carpeta() + u"/fotos"_s;
+  Imagen(fotos, u"agua.png"_s, 200, Qt::blue);
+  Imagen(fotos, u"defecto.gif"_s, 200, Qt::green);
+  QVERIFY(f.mostrar());
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+}
+
+QColor ColorMostrado(FormularioPrueba& f, const QString& caja) {
+  const QImage imagen = f.control<QLabel>(caja)->pixmap().toImage();
+  return imagen.isNull() ? QColor() : imagen.pixelColor(imagen.width() / 2, imagen.height() / 2);
+}
+
+bool Marcada(FormularioPrueba& f, const QString& nombre) {
+  const auto* b = f.control<QAbstractButton>(nombre);
+  return b && b->isChecked();
+}
+
+void Comparar(FormularioPrueba& f, const QList<QPair<QString, QString>>& textos) {
+  for (const auto& [nombre, texto] : textos)
+    QCOMPARE(Texto(f, nombre), texto);
+}
+
+void Tecla(Qt::Key tecla, Qt::KeyboardModifiers mod = Qt::NoModifier) {
+  QVERIFY(QApplication::focusWidget());
+  QTest::keyClick(QApplication::focusWidget(), tecla, mod);
+}
+
+}  // namespace
+
+class TestFormulario : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() { QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain)); }
+  void alCargar();
+  void unPasoDeLaCargaQueFallaNoDetieneLosDemas();
+  void traduceAntesDeAdaptarseAlTipoDePrograma();
+  void losModosDeLosProductosSimples();
+  void losModosDeLosElaborados();
+  void unBotonSinPermisoNoSeEnciende();
+  void nuevo();
+  void losEventosDeLosCampos();
+  void muestraCadaProductoCampoACampo();
+  void navegaConSusAvisosYSusTeclas();
+  void laListaDeProductos();
+  void lasSalidasYElProgramaDePrecios();
+};
+
+void TestFormulario::alCargar() {
+  FormularioPrueba f(Catalogo());
+  f.inst().ejecutar({u"delete from EjecutablesTraduccion"_s});
+  QVERIFY(f.mostrar());
+  // The start screen lies over everything else.
+  QWidget* centro = f.forma().childAt(f.forma().rect().center());
+  QVERIFY(f.control<QWidget>(u"fr_Inicial"_s)->isAncestorOf(centro));
+  QCOMPARE(f.control<QComboBox>(u"cbo_Medida"_s)->currentIndex(), -1);
+  QComboBox* medida = f.control<QComboBox>(u"cbo_Medida"_s);
+  QCOMPARE(QStringList({medida->itemText(0), medida->itemText(1), medida->itemText(2)}),
+           (QStringList{u"Unidades"_s, u"Kilogramos"_s, u"Litros"_s}));
+  // The opening is counted for the employee, and the captions are gathered once.
+  QCOMPARE(f.inst().filas(u"select Formulario, empleado, entradas from entradas1"_s),
+           (QList<QVariantList>{{u"frmProductos1024"_s, u"5"_s, 1}}));
+  QCOMPARE(f.inst().filas(u"select nombreEjecutable from EjecutablesTraduccion"_s),
+           (QList<QVariantList>{{u"productos-frmProductos1024"_s}}));
+  QCOMPARE(f.inst()
+               .filas(u"select caption from traducciones where caption in "
+                      "('Stock mínimo', 'Seleccione sus proveedores')"_s)
+               .size(),
+           2);
+  // The live families that are no menu, in their order, on both panels.
+  for (const QString& nombre : {u"PanelFamilias"_s, u"PanelFamilias_Elab"_s}) {
+    QStringList codigos;
+    for (const EntradaPanel& e : f.control<PanelObjNuevo>(nombre)->objetos())
+      codigos.append(e.codigo);
+    QCOMPARE(codigos, (QStringList{u"F2"_s, u"F1"_s}));
+  }
+  QCOMPARE(Lineas(f, u"lb_impresoras"_s), QStringList{u"Barra"_s});
+  QVERIFY(f.control<QWidget>(u"cmdImpresoras"_s)->isHidden());
+  // A fast-food program has no special product.
+  QVERIFY(!f.control<QWidget>(u"chkProdEspecial"_s)->isHidden());
+  FormularioPrueba rapida;
+  rapida.entorno().sesion.TipoProgramaInformes = u"FASTFOOD"_s;
+  QVERIFY(rapida.control<QWidget>(u"chkProdEspecial"_s)->isHidden());
+  QVERIFY(f.inst().erroresMostrados().isEmpty());
+}
+
+void TestFormulario::unPasoDeLaCargaQueFallaNoDetieneLosDemas() {
+  FormularioPrueba f(
+      {u"insert into atributos (codigo, form, form_desc, boton, boton_desc, boton_auxiliar) "
+       "values (1, 'frmProductos1024', '', 'cmd_eliminar', 'Eliminar', 'Command1'), "
+       "(2, 'otro', '', 'cmd_nuevo', 'Nuevo', null), "
+       "(3, 'frmProductos1024', '', 'cmd_modificar', 'Modificar', null)"_s,
+       u"insert into empleadosatributos (codEmpleado, codatributo) values (5, 1), (5, 2), (6, 3)"_s,
+       Familia(u"F1"_s, u"Cervezas"_s, 1), Impresora(1, u"Cocina"_s)});
+  // The adjustment to the screen fails; the steps after it still run.
+  f.inst().ejecutar({u"drop table EjecutablesTraduccion"_s});
+  f.forma();
+  QVERIFY(f.inst().log().startsWith("frmProductos1024_Load, Descripcion: "));
+  QCOMPARE(f.inst().log().count('\n'), 1);
+  QCOMPARE(f.inst().erroresMostrados().size(), 1);
+  // The employee's restrictions, of this form only, hide the auxiliary button too.
+  QVERIFY(!Activo(f, u"cmd_eliminar"_s));
+  QVERIFY(f.control<QWidget>(u"Command1"_s)->isHidden());
+  Exigir(f, &Activo, u"cmd_nuevo cmd_modificar"_s, true);
+  QCOMPARE(f.control<QComboBox>(u"cbo_Medida"_s)->count(), 3);
+  QCOMPARE(Lineas(f, u"lb_impresoras"_s).size(), 1);
+  QCOMPARE(f.control<PanelObjNuevo>(u"PanelFamilias"_s)->objetos().size(), 1);
+}
+
+void TestFormulario::traduceAntesDeAdaptarseAlTipoDePrograma() {
+  FormularioPrueba f({u"update opciones set tipo_programa = 'FASTFOOD', idioma = 'INGLES'"_s,
+                      u"insert into traducciones (caption, traduccion) values "
+                      "('Producto Entrada / Ropero', 'Entry / cloakroom'), ('Nuevo', 'New'), "
+                      "('Salir', null)"_s});
+  f.inst().ejecutar({u"delete from EjecutablesTraduccion"_s});
+  f.entorno().sesion.idioma = u"INGLES"_s;
+  f.forma();
+  QCOMPARE(f.entorno().sesion.tipo_programa, u"FASTFOOD"_s);
+  // A fast-food installation on a restaurant's data names the special product after the
+  // translation, so the translation does not stand.
+  QCOMPARE(f.control<QCheckBox>(u"chkProdEspecial"_s)->text(), u"Producto Ropero"_s);
+  QCOMPARE(f.control<QPushButton>(u"cmd_nuevo"_s)->text(), u"New"_s);
+  QCOMPARE(f.control<QPushButton>(u"cmd_salir"_s)->text(), u"Salir"_s);
+  // In another language nothing is gathered.
+  QVERIFY(f.inst().filas(u"select * from EjecutablesTraduccion"_s).isEmpty());
+}
+
+void TestFormulario::losModosDeLosProductosSimples() {
+  FormularioPrueba f(Catalogo());
+  Abrir(f);
+  QVERIFY(Visible(f, u"fr_ProductoGenerico"_s) && !Visible(f, u"fr_Inicial"_s));
+  const QString navegacion =
+      u"cmd_buscar cmd_nuevo cmd_eliminar cmd_modificar cmd_ayuda "
+      "cmd_salir cmd_ListaProd"_s;
+  const QString cambios =
+      u"cmd_aceptar cmd_cancelar bt_botonSig bt_botonAnt cmd_Proveedor "
+      "ch_Mostrar optCocina pict_imagen pic_ColorPG"_s;
+  Exigir(f, &Activo, navegacion, true);
+  Exigir(f, &Activo, cambios, false);
+  Exigir(f, &Visible, u"frFlechasGen Label6 opt_Venta opt_cocina opt_ambos"_s, true);
+  Exigir(f, &Visible, u"fr_MensajeNombre fr_Mensajenumero"_s, false);
+  auto* nombre = f.control<QLineEdit>(u"txt_nombre"_s);
+  QVERIFY(nombre->isReadOnly());
+  QTRY_COMPARE(QApplication::focusWidget(), f.control<QWidget>(u"cmd_nuevo"_s));
+  // A locked list of units keeps its value against keys.
+  auto* medida = f.control<QComboBox>(u"cbo_Medida"_s);
+  QTest::keyClick(medida, Qt::Key_Down);
+  QCOMPARE(medida->currentText(), u"Litros"_s);
+  // The current stock is never locked or unlocked by the modes.
+  auto* stock = f.control<QLineEdit>(u"txt_stock_actual"_s);
+  QVERIFY(!stock->isReadOnly());
+  stock->setReadOnly(true);
+
+  Pulsar(f, u"cmd_modificar"_s);
+  QVERIFY(f.forma().estado().modificando && !nombre->isReadOnly() && stock->isReadOnly());
+  QTRY_COMPARE(QApplication::focusWidget(), nombre);
+  Exigir(f, &Activo, navegacion, false);
+  Exigir(f, &Activo, cambios + u" lbl_Insertar lbl_color"_s, true);
+  QVERIFY(!Visible(f, u"frFlechasGen"_s));
+  QTest::keyClick(medida, Qt::Key_Up);
+  QCOMPARE(medida->currentText(), u"Kilogramos"_s);
+  Pulsar(f, u"cmd_cancelar"_s);
+  QVERIFY(nombre->isReadOnly() && !Activo(f, u"cmd_aceptar"_s));
+  QCOMPARE(medida->currentText(), u"Litros"_s);
+}
+
+void TestFormulario::losModosDeLosElaborados() {
+  FormularioPrueba f(Catalogo());
+  QVERIFY(f.mostrar());
+  Pulsar(f, u"cmd_ProdElaborado"_s);
+  QVERIFY(Visible(f, u"fr_ProductosElaborados"_s) && !Visible(f, u"fr_ProductoGenerico"_s));
+  const QString navegacion =
+      u"cmd_NuevoProdEla cmd_ModificarProdEla cmd_EliminarProdEla "
+      "Boton_SM2 cmd_SalirProdEla"_s;
+  const QString cambios =
+      u"cmd_AceptarProdEl cmd_CancelarProdEl lb_Productos lb_ProductosSel "
+      "cmdCInterno cmdCVenta pic_ProductoElaborado optBarraElab"_s;
+  Exigir(f, &Activo, navegacion + u" cmd_AyudaProdEla"_s, true);
+  Exigir(f, &Activo, cambios, false);
+  Exigir(f, &Visible, u"fr_Mensaje fr_colores fr_mensajeNombrePElab fr_mensajeNumeroPElab"_s,
+         false);
+  QCOMPARE(Texto(f, u"lblProdASel"_s), u"Productos elaborados"_s);
+  QVERIFY(f.control<QLineEdit>(u"txt_NombreElaborado"_s)->isReadOnly());
+  Pulsar(f, u"cmd_ModificarProdEla"_s);
+  QCOMPARE(Texto(f, u"lblProdASel"_s), u"Seleccione el componente a utilizar:"_s);
+  Exigir(f, &Activo, cambios + u" pic_Color"_s, true);
+  Exigir(f, &Activo, navegacion, false);
+  QTRY_COMPARE(QApplication::focusWidget(), f.control<QWidget>(u"txt_NombreElaborado"_s));
+  Pulsar(f, u"cmd_CancelarProdEl"_s);
+  QVERIFY(!Activo(f, u"cmd_AceptarProdEl"_s));
+  QCOMPARE(Texto(f, u"lblProdASel"_s), u"Productos elaborados"_s);
+}
+
+void TestFormulario::unBotonSinPermisoNoSeEnciende() {
+  FormularioPrueba f(Catalogo() << u"insert into atributos (codigo, form, form_desc, boton, "
+                                   "boton_desc, boton_auxiliar) values (1, 'frmProductos1024', "
+                                   "'Productos', 'cmd_eliminar', 'Eliminar', null)"_s
+                                << u"insert into empleadosatributos values (5, 1)"_s);
+  QVERIFY(f.mostrar());
+  // Restricted to the employee, or without its flag: choosing the screen or leaving change
+  // mode never gives the button back; a button whose flag stands is switched on by the modes.
+  f.forma().estado().permisos.nuevo = false;
+  for (const QString& b : {u"cmd_nuevo"_s, u"cmd_NuevoProdEla"_s, u"cmd_modificar"_s})
+    f.control<QPushButton>(b)->setEnabled(false);
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  Exigir(f, &Activo, u"cmd_nuevo cmd_eliminar"_s, false);
+  Pulsar(f, u"cmd_modificar"_s);
+  Pulsar(f, u"cmd_cancelar"_s);
+  Exigir(f, &Activo, u"cmd_nuevo cmd_eliminar"_s, false);
+  Pulsar(f, u"cmd_salir"_s);
+  Pulsar(f, u"cmd_ProdElaborado"_s);
+  QVERIFY(!Activo(f, u"cmd_NuevoProdEla"_s) && Activo(f, u"cmd_ModificarProdEla"_s));
+}
+
+void TestFormulario::nuevo() {
+  // Without a live supplier there is no new product.
+  FormularioPrueba sin(
+      {u"insert into proveedores (codigo, nombre, borrar) values ('P9', "
+       "'Viejo', -1)"_s,
+       Producto(u"1"_s, u"Caña"_s)});
+  Abrir(sin);
+  Pulsar(sin, u"cmd_nuevo"_s);
+  QCOMPARE(sin.dialogos().mensajes(),
+           QStringList{u"Antes de dar de alta productos tiene que dar de alta algun proveedor"_s});
+  QCOMPARE(Texto(sin, u"txt_nombre"_s), u"Caña"_s);
+  QVERIFY(!Activo(sin, u"cmd_aceptar"_s));
+
+  FormularioPrueba f(Catalogo());
+  Abrir(f);
+  Pulsar(f, u"cmd_nuevo"_s);
+  // The largest code counts deleted products too.
+  QCOMPARE(f.forma().estado().codigoActual, 10);
+  QVERIFY(f.forma().estado().colorElegido.isEmpty());
+  // The number is offered at once; setting the price works the margin out of it.
+  Comparar(f, {{u"txt_nombre"_s, u""_s},
+               {u"txtCodBarras"_s, u""_s},
+               {u"txt_descripcion"_s, u""_s},
+               {u"txtDescNumericaPGen"_s, u"32"_s},
+               {u"txt_coste"_s, u"0"_s},
+               {u"txt_iva"_s, u"0"_s},
+               {u"txt_precio"_s, u"0"_s},
+               {u"txt_stock_actual"_s, u"0"_s},
+               {u"txt_stock_minimo"_s, u"1"_s},
+               {u"txt_margen"_s, u"0,00"_s},
+               {u"lblnomFamilia"_s, u""_s}});
+  QCOMPARE(f.control<QComboBox>(u"cbo_Medida"_s)->currentIndex(), -1);
+  Exigir(f, &Marcada, u"optCocina optBarra opt_ambos opt_cocina opt_Venta"_s, false);
+  QCOMPARE(f.control<QLabel>(u"lblnomFamilia"_s)->property("codigo").toString(), u"-1"_s);
+  QCOMPARE(f.control<QPushButton>(u"cmd_Proveedor"_s)->text(), u"Seleccione sus proveedores"_s);
+  QVERIFY(Lineas(f, u"lb_ProveedoresAsignados"_s).isEmpty());
+  QVERIFY(Visible(f, u"frOcultarGen"_s) && Visible(f, u"txt_margen"_s));
+  Exigir(f, &Visible,
+         u"txt_coste lbl_coste txt_precio txt_iva lbl_percent txt_stock_minimo txt_stock_actual "
+         "Label16 cbo_Medida Label6 opt_Venta pict_imagen pic_ColorPG txtDescNumericaPGen "
+         "lblPos ch_Mostrar optCocina"_s,
+         false);
+  QTRY_COMPARE(QApplication::focusWidget(), f.control<QWidget>(u"txt_nombre"_s));
+  // The unit of measure is the step that brings the product kinds.
+  auto* medida = f.control<QComboBox>(u"cbo_Medida"_s);
+  medida->show();
+  QTest::keyClick(medida, Qt::Key_Down);
+  QCOMPARE(medida->currentText(), u"Unidades"_s);
+  Exigir(f, &Visible, u"Label6 opt_Venta opt_cocina opt_ambos"_s, true);
+  QVERIFY(Marcada(f, u"opt_ambos"_s) && !Visible(f, u"frOcultarGen"_s));
+}
+
+void TestFormulario::losEventosDeLosCampos() {
+  FormularioPrueba f(Catalogo());
+  Abrir(f);
+  Pulsar(f, u"bt_botones_2"_s);
+  Pulsar(f, u"bt_botones_2"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
+  Pulsar(f, u"cmd_modificar"_s);
+  auto* mostrar = f.control<QCheckBox>(u"ch_Mostrar"_s);
+  auto* especial = f.control<QCheckBox>(u"chkProdEspecial"_s);
+  const QString caja =
+      u"pict_imagen pic_ColorPG lbl_color txtDescNumericaPGen Label14 "
+      "Lbl_Posicion lblPos bt_botonAnt bt_botonSig"_s;
+  QTest::mouseClick(mostrar, Qt::LeftButton);
+  Exigir(f, &Visible, caja, false);
+  // A special product is never shown on the till, and the till box takes the mark away.
+  QTest::mouseClick(especial, Qt::LeftButton);
+  QVERIFY(especial->isChecked() && !Visible(f, u"frMostrarCaja"_s));
+  QTest::mouseClick(especial, Qt::LeftButton);
+  QVERIFY(!especial->isChecked() && Visible(f, u"frMostrarCaja"_s));
+  especial->setChecked(true);
+  f.control<QWidget>(u"frMostrarCaja"_s)->show();
+  QTest::mouseClick(mostrar, Qt::LeftButton);
+  QVERIFY(mostrar->isChecked() && !especial->isChecked());
+  Exigir(f, &Visible, caja, true);
+  // The arrows move the position one place, never below 0.
+  Pulsar(f, u"bt_botonSig"_s);
+  QCOMPARE(Texto(f, u"lblPos"_s), u"1"_s);
+  for (int i = 0; i < 3; ++i)
+    Pulsar(f, u"bt_botonAnt"_s);
+  QCOMPARE(Texto(f, u"lblPos"_s), u"0"_s);
+  // The numeric description takes digits only.
+  auto* numero = f.control<QLineEdit>(u"txtDescNumericaPGen"_s);
+  numero->clear();
+  QTest::keyClicks(numero, u"1a2,3.-4 "_s);
+  QCOMPARE(numero->text(), u"1234"_s);
+}
+
+void TestFormulario::muestraCadaProductoCampoACampo() {
+  FormularioPrueba f(Catalogo());
+  Abrir(f);
+  // The price is shown before the tax: on the first product the tax box was still empty, so it
+  // was set to "0" and the stored margin stands. Numbers read as they are written.
+  Comparar(
+      f, {{u"txt_nombre"_s, u"Agua"_s},
+          {u"txt_coste"_s, u"0,6"_s},
+          {u"txt_iva"_s, u"10"_s},
+          {u"txt_precio"_s, u"1,76"_s},
+          {u"txt_margen"_s, u"0,5"_s},
+          {u"lblnomFamilia"_s, u"Cervezas"_s},
+          {u"txtCodBarras"_s, u"8410000000017"_s},
+          {u"lblPos"_s, u"4"_s},
+          {u"txt_descripcion"_s, u"De manantial"_s},
+          {u"txtDescNumericaPGen"_s, u"12"_s},
+          {u"txt_stock_actual"_s, u"24"_s},
+          {u"txt_stock_minimo"_s, u"6"_s},
+          {u"lblNomProd"_s, u"Producto = Agua = su elaboracion saldra X la impresora de Barra"_s}});
+  QCOMPARE(TextoDeValor(QVariant(1000000.0)), u"1000000"_s);
+  QCOMPARE(f.control<QLabel>(u"lblnomFamilia"_s)->property("codigo").toString(), u"F1"_s);
+  QCOMPARE(ColorMostrado(f, u"pict_imagen"_s), QColor(Qt::blue));
+  QCOMPARE(ColorFondo(f.control<QLabel>(u"pic_ColorPG"_s)), ColorDesdeValor(255));
+  QCOMPARE(f.forma().estado().colorElegido, u"255"_s);
+  QCOMPARE(f.forma().estado().impresoraElegida, u"3"_s);
+  QCOMPARE(f.control<QPushButton>(u"cmd_Proveedor"_s)->text(), u"Distribuciones Sur"_s);
+  QCOMPARE(f.control<QComboBox>(u"cbo_Medida"_s)->currentText(), u"Litros"_s);
+  Exigir(f, &Marcada, u"optCocina opt_ambos chkProdEspecial ch_Mostrar"_s, true);
+  QVERIFY(!Marcada(f, u"optBarra"_s));
+
+  // A deleted printer, no family, no colour, hidden from the till.
+  Pulsar(f, u"bt_botones_2"_s);
+  Comparar(f,
+           {{u"txt_nombre"_s, u"Bocadillo"_s},
+            {u"lblNomProd"_s, u"Producto = Bocadillo = La impresora utilizada ha sido eliminada"_s},
+            {u"lblnomFamilia"_s, u""_s},
+            {u"lblPos"_s, u"0"_s},
+            {u"txt_stock_minimo"_s, u"0"_s}});
+  QCOMPARE(f.control<QLabel>(u"lblnomFamilia"_s)->property("codigo").toString(), u"-1"_s);
+  // Neither kitchen nor bar: the previous product's choice does not stay.
+  Exigir(f, &Marcada, u"optCocina optBarra ch_Mostrar"_s, false);
+  QVERIFY(Marcada(f, u"opt_cocina"_s) && !Visible(f, u"pict_imagen"_s));
+  QCOMPARE(ColorFondo(f.control<QLabel>(u"pic_ColorPG"_s)), QColor(Qt::white));
+  QVERIFY(f.forma().estado().colorElegido.isEmpty());
+  // A missing picture shows the default one.
+  Pulsar(f, u"bt_botones_2"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
+  QCOMPARE(ColorMostrado(f, u"pict_imagen"_s), QColor(Qt::green));
+  QCOMPARE(Texto(f, u"lblNomProd"_s), QString());
+  // No stock row: empty stock boxes, and the fields after them from this product's own row.
+  Pulsar(f, u"bt_botones_2"_s);
+  Comparar(f, {{u"txt_nombre"_s, u"Zumo"_s},
+               {u"txt_stock_actual"_s, u""_s},
+               {u"txt_stock_minimo"_s, u""_s}});
+  QVERIFY(Marcada(f, u"optBarra"_s));
+
+  // An elaborated product; the ingredients are asked for by its code.
+  QStringList ingredientes;
+  f.forma().visualizacion().cargarIngredientes = [&](const QString& c) { ingredientes << c; };
+  Pulsar(f, u"cmd_salir"_s);
+  Pulsar(f, u"cmd_ProdElaborado"_s);
+  Comparar(f, {{u"txt_NombreElaborado"_s, u"Tortilla"_s},
+               {u"lblNomFamilia_elab"_s, u"Cervezas"_s},
+               {u"txt_DescElaborado"_s, u"De patatas"_s},
+               {u"txtDescNumerica"_s, u"31"_s},
+               {u"txt_costeElaborado"_s, u"2,5"_s},
+               {u"txt_ImpuestoElaborado"_s, u"10"_s},
+               {u"txt_PrecioElaborado"_s, u"6"_s},
+               {u"lblpospelab"_s, u"0"_s}});
+  QVERIFY(Marcada(f, u"optBarraElab"_s));
+  QCOMPARE(ColorFondo(f.control<QLabel>(u"pic_Color"_s)), ColorDesdeValor(65280));
+  QCOMPARE(ingredientes, QStringList{u"5"_s});
+  QVERIFY(f.inst().erroresMostrados().isEmpty());
+}
+
+void TestFormulario::navegaConSusAvisosYSusTeclas() {
+  // The simple products are walked by name; an elaborated or deleted product is not among them.
+  FormularioPrueba f(Catalogo());
+  QVERIFY(f.mostrar());
+  // On the start screen the arrows are hidden: their keys move nothing.
+  Tecla(Qt::Key_PageDown);
+  QCOMPARE(f.forma().estado().codigoActual, 0);
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  Pulsar(f, u"bt_botones_1"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Agua"_s);
+  QCOMPARE(f.dialogos().mensajes(), QStringList{u"Primer Registro"_s});
+  Tecla(Qt::Key_PageDown);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Bocadillo"_s);
+  Tecla(Qt::Key_End, Qt::ControlModifier);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Zumo"_s);
+  Pulsar(f, u"bt_botones_2"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Zumo"_s);
+  QCOMPARE(f.dialogos().mensajes(), (QStringList{u"Primer Registro"_s, u"Último Registro"_s}));
+  // After the warning the set stands on its last row: previous goes to the one before.
+  Tecla(Qt::Key_PageUp);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
+  Tecla(Qt::Key_Home, Qt::ControlModifier);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Agua"_s);
+  // The search hands back a code; -1 is none.
+  f.forma().ProductoBuscado(u"-1"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Agua"_s);
+  f.forma().ProductoBuscado(u"3"_s);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
+  QCOMPARE(f.forma().estado().codigoActual, 3);
+  Tecla(Qt::Key_F1);
+  QVERIFY(
+      f.dialogos().llamadasDe(u"abrirDocumento"_s).value(0).texto.endsWith(u"A_Productos.html"_s));
+  // A key does not press a button that is off; F2 changes the product, and in change mode the
+  // arrows are away and so are their keys.
+  f.control<QPushButton>(u"cmd_nuevo"_s)->setEnabled(false);
+  f.control<QPushButton>(u"cmd_modificar"_s)->setFocus();
+  Tecla(Qt::Key_Insert);
+  QVERIFY(!Activo(f, u"cmd_aceptar"_s));
+  Tecla(Qt::Key_F2);
+  QVERIFY(Activo(f, u"cmd_aceptar"_s));
+  Tecla(Qt::Key_PageDown);
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
+  QCOMPARE(f.dialogos().mensajes().size(), 2);
+
+  // With no product the arrows do nothing.
+  FormularioPrueba vacio;
+  QVERIFY(vacio.mostrar());
+  Pulsar(vacio, u"cmd_ProdGenerico"_s);
+  for (int i = 0; i < 4; ++i)
+    Pulsar(vacio, u"bt_botones_%1"_s.arg(i));
+  QVERIFY(vacio.dialogos().llamadas().isEmpty() && vacio.inst().erroresMostrados().isEmpty());
+}
+
+void TestFormulario::laListaDeProductos() {
+  FormularioPrueba f(Catalogo());
+  Abrir(f);
+  Pulsar(f, u"cmd_ListaProd"_s);
+  // Every live product by name, its code pushed out of sight; its button closes it.
+  QCOMPARE(Lineas(f, u"lstProductos"_s),
+           (QStringList{LineaLista(u"Agua"_s, u"1"_s), LineaLista(u"Bocadillo"_s, u"2"_s),
+                        LineaLista(u"Café"_s, u"3"_s), LineaLista(u"Tortilla"_s, u"5"_s),
+                        LineaLista(u"Zumo"_s, u"4"_s)}));
+  Pulsar(f, u"cmd_ListaProd"_s);
+  QVERIFY(!Visible(f, u"frListaProductos"_s));
+  Pulsar(f, u"cmd_ListaProd"_s);
+  // Kitchen and bar reload it, with what the table holds now.
+  f.inst().ejecutar({Producto(u"6"_s, u"Ajo"_s, {{u"tipoprod"_s, u"0"_s}})});
+  Pulsar(f, u"cmdCocina"_s);
+  QCOMPARE(Lineas(f, u"lstProductos"_s),
+           (QStringList{LineaLista(u"Ajo"_s, u"6"_s), LineaLista(u"Bocadillo"_s, u"2"_s)}));
+  Pulsar(f, u"cmdBarra"_s);
+  QCOMPARE(Lineas(f, u"lstProductos"_s).size(), 4);
+  QVERIFY(f.dialogos().mensajes().isEmpty());
+  // With none of a kind the notice shows and the list stays as it was.
+  f.inst().ejecutar({u"update productos set borrar = -1 where tipoprod = 0"_s});
+  Pulsar(f, u"cmdCocina"_s);
+  QCOMPARE(f.dialogos().mensajes(), QStringList{u"No hay productos dados de alta."_s});
+  QCOMPARE(f.dialogos().llamadas().first().titulo, u"ATENCION"_s);
+  QCOMPARE(Lineas(f, u"lstProductos"_s).size(), 4);
+  // A double touch shows that product and closes the list.
+  auto* lista = f.control<QListWidget>(u"lstProductos"_s);
+  const QRect fila = lista->visualItemRect(lista->item(1));
+  QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
+  QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
+  QTRY_VERIFY(!Visible(f, u"frListaProductos"_s));
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
+  QCOMPARE(f.forma().estado().codigoActual, 3);
+  // Leaving the screen takes the list away; with no live product it does not open.
+  Pulsar(f, u"cmd_ListaProd"_s);
+  Pulsar(f, u"cmd_salir"_s);
+  QVERIFY(f.control<QWidget>(u"frListaProductos"_s)->isHidden());
+  f.inst().ejecutar({u"update productos set borrar = -1"_s});
+  f.dialogos().olvidar();
+  Pulsar(f, u"cmd_ProdGenerico"_s);
+  Pulsar(f, u"cmd_ListaProd"_s);
+  QCOMPARE(f.dialogos().mensajes(), QStringList{u"No hay productos dados de alta."_s});
+  QVERIFY(!Visible(f, u"frListaProductos"_s));
+}
+
+void TestFormulario::lasSalidasYElProgramaDePrecios() {
+  FormularioPrueba f;
+  const QString carpeta = f.inst().carpeta();
+  QFile programa(carpeta + u"/Tarvelo.exe"_s);
+  QVERIFY(programa.open(QIODevice::WriteOnly) && programa.write("#!/bin/sh\n") > 0);
+  programa.close();
+  QFile anterior(carpeta + u"/ModoPrecio.txt"_s);
+  QVERIFY(anterior.open(QIODevice::WriteOnly) && anterior.write("1\r\nrestos\r\n") > 0);
+  anterior.close();
+  f.dialogos().programaAbierto(u"Tarvelo"_s, 2);
+  QVERIFY(f.mostrar());
+  // The captions of the start screen pass their touch on to their buttons.
+  QTest::mouseClick(f.control<QLabel>(u"Label12"_s), Qt::LeftButton);
+  QVERIFY(Visible(f, u"fr_ProductoGenerico"_s));
+  Pulsar(f, u"cmd_salir"_s);
+  Pulsar(f, u"cmd_ProdElaborado"_s);
+  Pulsar(f, u"cmd_SalirProdEla"_s);
+  QVERIFY(Visible(f, u"fr_Inicial"_s) && !Visible(f, u"fr_ProductosElaborados"_s));
+  // The prices' program gets the mode in its file, once its running copies are closed.
+  f.dialogos().olvidar();
+  Pulsar(f, u"Boton_SM1"_s);
+  QFile modo(carpeta + u"/ModoPrecio.txt"_s);
+  QVERIFY(modo.open(QIODevice::ReadOnly));
+  QCOMPARE(modo.readAll(), QByteArray("0"));
+  QStringList llamadas;
+  for (const DialogosGuion::Llamada& l : f.dialogos().llamadas())
+    llamadas.append(l.tipo + u' ' + l.texto + u' ' + l.titulo);
+  const QString ruta = f.entorno().instalacion.rutaEnCarpeta(u"Tarvelo.exe"_s);
+  QCOMPARE(llamadas, (QStringList{u"programaEnEjecucion Tarvelo "_s, u"cerrarPrograma Tarvelo "_s,
+                                  u"programaEnEjecucion Tarvelo "_s, u"cerrarPrograma Tarvelo "_s,
+                                  u"programaEnEjecucion Tarvelo "_s,
+                                  u"iniciarPrograma "_s + ruta + u' ' +
+                                      f.entorno().instalacion.carpetaPrograma}));
+  Pulsar(f, u"cmd_Salir2"_s);
+  QTRY_VERIFY(!f.forma().isVisible());
+  QVERIFY(f.inst().erroresMostrados().isEmpty());
+}
+
+PRODUCTOS_TEST_MAIN(TestFormulario)
+#include "test_formulario.moc"

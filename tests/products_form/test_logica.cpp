@@ -1,0 +1,551 @@
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "codigos_producto.h"
+#include "formulario_prueba.h"
+#include "imagen_producto.h"
+#include "impresoras_producto.h"
+#include "listas_productos.h"
+#include "proveedores_producto.h"
+#include "reglas_teclas.h"
+#include "validacion_producto.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// The products form's rules that need no widget: keys, amounts, checks, codes, lists, suppliers,
+// printers, pictures and the save, on a throwaway installation.
+namespace {
+
+// The text of a field after typing keys one by one through the decimal rule.
+QString Teclear(const QString& inicio, const QString& teclas, int decimales, const QString& sep) {
+  QString texto = inicio;
+  for (QChar c : teclas) {
+    const int r = TeclaDecimal(c.unicode(), texto, decimales, sep);
+    if (r == teclas::kRetroceso)
+      texto.chop(1);
+    else if (r != 0)
+      texto += QChar(r);
+  }
+  return texto;
+}
+
+// A product row with the columns the look-ups read.
+QString Fila(const QString& codigo, const QString& nombre, int borrar, int mostrar,
+             const QString& seccion, int descNumerica, int orden, const QString& barras = {}) {
+  return u"insert into productos (codigo, nombre, borrar, mostrarencaja, seccion, DescNumerica, "
+         "orden, codigobarras) values ('%1', '%2', %3, %4, '%5', %6, %7, '%8')"_s
+             .arg(codigo, nombre)
+             .arg(borrar)
+             .arg(mostrar)
+             .arg(seccion)
+             .arg(descNumerica)
+             .arg(orden)
+             .arg(barras);
+}
+
+// An existing product 5 with its stock row and one supplier link, written long ago.
+void ProductoAntiguo(InstalacionPrueba& prueba) {
+  prueba.ejecutar(
+      {u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
+       "MargenComercial, Precio, IVA, FechaAlta, Foto, color, proveedor, unidadMedida, "
+       "StockMinimo, MostrarEnCaja, hechoen, tipoprod, DescNumerica, Orden, impresora, "
+       "productoespecial, Borrar) values ('5', 'Tinto', 'Vino', '', '3', 1.5, 0, 2.5, 21, "
+       "'2001-02-03', 'vieja.jpg', 65280, 'P09', 'Litros', 2, 0, 2, 0, 40, 8, 0, 0, 0)"_s,
+       u"insert into stock values (5, 9, 2, 4)"_s,
+       u"insert into productoproveedor values ('5', 'P09', 3.25)"_s});
+}
+
+QStringList Contextos(InstalacionPrueba& prueba) {
+  QStringList r;
+  for (const auto& [contexto, descripcion] : prueba.erroresMostrados())
+    r.append(contexto);
+  return r;
+}
+
+}  // namespace
+
+class TestLogica : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() { QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain)); }
+  void reglaDecimal_data();
+  void reglaDecimal();
+  void tecladoEnPantallaSegunElCampo_data();
+  void tecladoEnPantallaSegunElCampo();
+  void precioYMargen();
+  void esNumerico_data();
+  void esNumerico();
+  void lasComprobacionesVanEnSuOrden_data();
+  void lasComprobacionesVanEnSuOrden();
+  void codigosYNumerosPropuestos();
+  void loQueChocaConOtroProducto();
+  void unFalloDeLaBaseSeRegistraConSuContexto();
+  void lineasDeLasListas();
+  void proveedoresDeUnProducto();
+  void impresorasYOpcionesGuardadas();
+  void imagenes();
+  void grabarSinCamposOpcionales();
+  void elProductoEspecialSegunElPrograma_data();
+  void elProductoEspecialSegunElPrograma();
+  void modificarConservaLoNoElegido();
+  void unaGrabacionQueFallaNoDejaNada();
+};
+
+void TestLogica::reglaDecimal_data() {
+  QTest::addColumn<QString>("separador");
+  QTest::addColumn<int>("decimales");
+  QTest::addColumn<QString>("inicio");
+  QTest::addColumn<QString>("teclas");
+  QTest::addColumn<QString>("texto");
+  QTest::newRow("punto da coma") << u","_s << 2 << u""_s << u"1.5"_s << u"1,5"_s;
+  QTest::newRow("coma da punto") << u"."_s << 2 << u""_s << u"1,5"_s << u"1.5"_s;
+  QTest::newRow("dos decimales y no más") << u","_s << 2 << u""_s << u"3,2567"_s << u"3,25"_s;
+  QTest::newRow("completo: ni una cifra") << u"."_s << 2 << u"3.25"_s << u"9"_s << u"3.25"_s;
+  QTest::newRow("sin decimales no hay separador") << u","_s << 0 << u""_s << u"1,5.2"_s << u"152"_s;
+  QTest::newRow("no empieza por el separador") << u","_s << 2 << u""_s << u",5"_s << u"5"_s;
+  QTest::newRow("un solo separador") << u"."_s << 2 << u""_s << u"1..5"_s << u"1.5"_s;
+  QTest::newRow("ni signos ni letras") << u","_s << 2 << u""_s << u"-1 a+2"_s << u"12"_s;
+  QTest::newRow("retroceso") << u","_s << 2 << u"3,25"_s << u"\b\b"_s << u"3,"_s;
+}
+
+void TestLogica::reglaDecimal() {
+  QFETCH(QString, separador);
+  QFETCH(int, decimales);
+  QFETCH(QString, inicio);
+  QFETCH(QString, teclas);
+  QFETCH(QString, texto);
+  QCOMPARE(Teclear(inicio, teclas, decimales, separador), texto);
+  // Enter is never typed as a character; the stock fields take digits, Enter and Backspace.
+  QCOMPARE(TeclaDecimal(teclas::kEnter, u"3"_s, decimales, separador), 0);
+  for (int tecla : {int('0'), int('9'), teclas::kEnter, teclas::kRetroceso})
+    QCOMPARE(TeclaSoloDigitos(tecla), tecla);
+  for (int tecla : {int(','), int('.'), int('a'), int('-'), teclas::kEscape, 22})
+    QCOMPARE(TeclaSoloDigitos(tecla), 0);
+}
+
+void TestLogica::tecladoEnPantallaSegunElCampo_data() {
+  QTest::addColumn<QString>("campo");
+  QTest::addColumn<QString>("texto");
+  QTest::addColumn<int>("tecla");
+  QTest::addColumn<QString>("anadido");
+  const QString nulo(QChar(0));
+  QTest::newRow("punto en el coste: coma") << u"txt_coste"_s << u"3"_s << int('.') << u","_s;
+  QTest::newRow("letra en el precio: nulo") << u"txt_precio"_s << u"3"_s << int('A') << nulo;
+  QTest::newRow("decimales completos: nulo") << u"txt_Cantidad"_s << u"3,25"_s << int('1') << nulo;
+  QTest::newRow("impuesto del elaborado: libre")
+      << u"txt_ImpuestoElaborado"_s << u"1"_s << int('A') << u"A"_s;
+  QTest::newRow("su nombre en minúsculas filtra")
+      << u"txt_impuestoelaborado"_s << u"1"_s << int('A') << nulo;
+  QTest::newRow("stock mínimo: cifra") << u"txt_stock_minimo"_s << u"1"_s << int('4') << u"4"_s;
+  QTest::newRow("stock mínimo: nada") << u"txt_stock_minimo"_s << u"1"_s << int(',') << u""_s;
+  QTest::newRow("nombre: tal cual") << u"txt_nombre"_s << u"CA"_s << 0xD1 << u"Ñ"_s;
+}
+
+void TestLogica::tecladoEnPantallaSegunElCampo() {
+  QFETCH(QString, campo);
+  QFETCH(QString, texto);
+  QFETCH(int, tecla);
+  QFETCH(QString, anadido);
+  QCOMPARE(CaracterDeTeclaEnPantalla(campo, texto, tecla, 2, u","_s), anadido);
+}
+
+void TestLogica::precioYMargen() {
+  QCOMPARE(PrecioDesdeMargen(10, 5, 10), 16.5);
+  // The margin taken back from that price keeps the tax on the margin.
+  QCOMPARE(MargenDesdePrecio(16.5, 10, 10), 5.5);
+  QCOMPARE(MargenDesdePrecio(121, 100, 10), 11.0);
+}
+
+void TestLogica::esNumerico_data() {
+  QTest::addColumn<QString>("texto");
+  QTest::addColumn<QString>("decimal");
+  QTest::addColumn<bool>("numerico");
+  QTest::addColumn<double>("valor");
+  QTest::newRow("coma en España") << u"12,5"_s << u","_s << true << 12.5;
+  QTest::newRow("vacío") << u""_s << u","_s << false << 0.0;
+  QTest::newRow("blancos") << u"   "_s << u","_s << false << 0.0;
+  QTest::newRow("blancos alrededor") << u" 3 "_s << u","_s << true << 3.0;
+  QTest::newRow("exponente D") << u"2D2"_s << u","_s << true << 200.0;
+  QTest::newRow("exponente sin cifras") << u"1e"_s << u","_s << false << 0.0;
+  QTest::newRow("signo") << u"-4,25"_s << u","_s << true << -4.25;
+  QTest::newRow("solo signo") << u"-"_s << u","_s << false << 0.0;
+  QTest::newRow("punto en España son miles") << u"12.5"_s << u","_s << true << 125.0;
+  QTest::newRow("miles tras la coma") << u"1,5.0"_s << u","_s << false << 0.0;
+  QTest::newRow("miles al principio") << u".5"_s << u","_s << false << 0.0;
+  QTest::newRow("coma sin cifras delante") << u",5"_s << u","_s << true << 0.5;
+  QTest::newRow("dos comas") << u"1,2,3"_s << u","_s << false << 0.0;
+  QTest::newRow("coma de miles con punto") << u"1,234.5"_s << u"."_s << true << 1234.5;
+  QTest::newRow("hexadecimal") << u"&H1F"_s << u","_s << true << 31.0;
+  QTest::newRow("octal") << u"&o17"_s << u","_s << true << 15.0;
+  QTest::newRow("hexadecimal vacío") << u"&H"_s << u","_s << false << 0.0;
+  QTest::newRow("cifras y letras") << u"12abc"_s << u","_s << false << 0.0;
+  QTest::newRow("blanco dentro") << u"1 2"_s << u","_s << false << 0.0;
+  QTest::newRow("desbordado") << u"1e999"_s << u","_s << false << 0.0;
+  QTest::newRow("cifras árabes") << u"\u0663"_s << u","_s << false << 0.0;
+}
+
+void TestLogica::esNumerico() {
+  QFETCH(QString, texto);
+  QFETCH(QString, decimal);
+  QFETCH(bool, numerico);
+  QFETCH(double, valor);
+  const QString miles = decimal == u","_s ? u"."_s : u","_s;
+  QCOMPARE(EsNumerico(texto, decimal, miles), numerico);
+  const std::optional<double> leido = ValorNumerico(texto, decimal, miles);
+  QCOMPARE(leido.has_value(), numerico);
+  if (numerico)
+    QCOMPARE(*leido, valor);
+}
+
+void TestLogica::lasComprobacionesVanEnSuOrden_data() {
+  QTest::addColumn<int>("numero");
+  QTest::addColumn<QString>("mensaje");
+  QTest::addColumn<QString>("campo");
+  // Each row breaks its own field and every later one: the first broken check must win.
+  QTest::newRow("1") << 1 << u"El nombre no puede estar vacio."_s << u"txt_nombre"_s;
+  QTest::newRow("2") << 2 << u"El coste no puede estar vacio"_s << u"txt_coste"_s;
+  QTest::newRow("3") << 3 << u"Ingrese el coste del producto"_s << u"txt_coste"_s;
+  QTest::newRow("4") << 4 << u"Ingrese un valor del impuesto"_s << u"txt_iva"_s;
+  QTest::newRow("5") << 5 << u"Ingrese un valor de impuesto valido"_s << u"txt_iva"_s;
+  QTest::newRow("6") << 6 << u"Ingrese el stock minimo que puede ser 1"_s << u"txt_stock_minimo"_s;
+  QTest::newRow("6 no numérico") << 60 << u"Ingrese el stock minimo que puede ser 1."_s
+                                 << u"txt_stock_minimo"_s;
+  QTest::newRow("7") << 7 << u"Ingrese el precio"_s << u"txt_precio"_s;
+  QTest::newRow("8") << 8 << u"Seleccione la unidad de medida"_s << u"cbo_Medida"_s;
+  QTest::newRow("9") << 9 << u"Seleccione el proveedor"_s << u"cmd_Proveedor"_s;
+  QTest::newRow("10") << 10 << u"Seleccione el lugar de servir o preparar el producto."_s
+                      << u"optCocina"_s;
+  QTest::newRow("11") << 11 << u"El codigo de barras ya existe."_s << u"txtCodBarras"_s;
+  QTest::newRow("ninguna") << 12 << QString() << QString();
+}
+
+void TestLogica::lasComprobacionesVanEnSuOrden() {
+  QFETCH(int, numero);
+  QFETCH(QString, mensaje);
+  QFETCH(QString, campo);
+  const int desde = numero == 60 ? 6 : numero;
+  CamposObligatorios c;
+  c.nombre = u"Caña"_s;
+  c.coste = u"0,6"_s;
+  c.iva = u"10"_s;
+  c.stockMinimo = u"1"_s;
+  c.precio = u"1,76"_s;
+  c.unidadMedida = u"Unidades"_s;
+  c.proveedoresAsignados = 1;
+  c.optBarra = true;
+  c.codigoBarras = u"8410000000017"_s;
+  QStringList consultados;
+  c.existeCodBarras = [&](const QString& codigo) {
+    consultados.append(codigo);
+    return desde <= 11;
+  };
+  // Applied from the last down to this one, so that a field shared by two checks ends broken
+  // for the earlier one.
+  const QList<std::function<void()>> romper = {
+      [&] { c.nombre.clear(); },
+      [&] { c.coste.clear(); },
+      [&] { c.coste = u"caro"_s; },
+      [&] { c.iva.clear(); },
+      [&] { c.iva = u"x"_s; },
+      [&] { c.stockMinimo = numero == 60 ? u"uno"_s : u""_s; },
+      [&] { c.precio = u"gratis"_s; },
+      [&] { c.unidadMedida.clear(); },
+      [&] { c.proveedoresAsignados = 0; },
+      [&] { c.optBarra = false; },
+  };
+  for (int i = 10; i >= desde; --i)
+    romper.at(i - 1)();
+  DialogosGuion dialogos;
+  QCOMPARE(bComprobarCamposObligatorios(dialogos, c), desde == 12);
+  // The barcode is looked up with its text, and only when the earlier checks pass.
+  QCOMPARE(consultados, desde >= 11 ? QStringList{c.codigoBarras} : QStringList());
+  const std::optional<FalloValidacion> fallo = ComprobarCamposObligatorios(c);
+  QCOMPARE(fallo.has_value(), desde != 12);
+  if (!fallo) {
+    QVERIFY(dialogos.llamadas().isEmpty());
+    return;
+  }
+  QCOMPARE(fallo->numero, desde);
+  QCOMPARE(fallo->mensaje, mensaje);
+  QCOMPARE(fallo->campo, campo);
+  QCOMPARE(dialogos.mensajes(),
+           (QStringList{mensaje, u"Debe establecer valor para todos los campos requeridos"_s}));
+  QCOMPARE(dialogos.llamadas().at(0).icono, ServicioDialogos::Icono::Critico);
+  QCOMPARE(dialogos.llamadas().at(0).titulo, TituloPrograma());
+  QCOMPARE(dialogos.llamadas().at(1).icono, ServicioDialogos::Icono::Informacion);
+}
+
+void TestLogica::codigosYNumerosPropuestos() {
+  InstalacionPrueba prueba;
+  Entorno& e = prueba.entorno();
+  QCOMPARE(SiguienteCodigo(e), std::optional<qint64>(1));
+  QCOMPARE(ValorPonerOrden(e), std::optional<QString>(u"0"_s));
+  QCOMPARE(ValorMensajeNumero(e, 1), std::optional<QString>(u"1"_s));
+  prueba.ejecutar(
+      {Fila(u"9"_s, u"A"_s, 0, 0, u"1"_s, 7, 4), Fila(u"10"_s, u"B"_s, 0, 0, u"1"_s, 3, 11),
+       // Deleted and hidden products do not count for the proposals.
+       Fila(u"2"_s, u"C"_s, -1, 0, u"1"_s, 90, 90), Fila(u"4"_s, u"D"_s, 0, -1, u"1"_s, 50, 6)});
+  // By number, not as text ("9" > "10"), deleted products included.
+  QCOMPARE(SiguienteCodigo(e), std::optional<qint64>(11));
+  prueba.ejecutar({Fila(u"25"_s, u"E"_s, -1, 0, u"1"_s, 4, 4)});
+  QCOMPARE(SiguienteCodigo(e), std::optional<qint64>(26));
+  QCOMPARE(ValorPonerOrden(e), std::optional<QString>(u"12"_s));
+  QCOMPARE(ValorMensajeNumero(e, 2), std::optional<QString>(u"8"_s));
+  QVERIFY(prueba.log().isEmpty());
+}
+
+void TestLogica::loQueChocaConOtroProducto() {
+  InstalacionPrueba prueba;
+  prueba.ejecutar({Fila(u"1"_s, u"Coca Cola"_s, 0, 0, u"3"_s, 12, 1),
+                   Fila(u"2"_s, u"Fanta"_s, -1, 0, u"3"_s, 22, 2, u"8410001"_s),
+                   Fila(u"3"_s, u"Oculto"_s, 0, -1, u"3"_s, 20, 3),
+                   Fila(u"4"_s, u"Sin familia"_s, 0, 0, u"-1"_s, 21, 4)});
+  Entorno& e = prueba.entorno();
+  // A name clashes with another live product, whatever its capitals.
+  QVERIFY(bcomprobarSiExisteNombre(e, u"coca cola"_s, 5));
+  QVERIFY(!bcomprobarSiExisteNombre(e, u"Coca Cola"_s, 1));
+  QVERIFY(!bcomprobarSiExisteNombre(e, u"Fanta"_s, 5));
+  // A numeric description, with a live product shown on the till in a family, and only once
+  // modified.
+  QVERIFY(!bcomprobarSiExisteDescNumerica(e, u"12"_s, 2, false).existe);
+  ComprobacionDescNumerica r = bcomprobarSiExisteDescNumerica(e, u"12"_s, 2, true);
+  QVERIFY(r.existe);
+  QCOMPARE(r.aviso, u"La descripción numérica ya existe, por favor introduzca otra."_s);
+  for (const QString& libre : {u"12"_s, u"13"_s, u"20"_s, u"21"_s, u"22"_s}) {
+    QVERIFY2(!bcomprobarSiExisteDescNumerica(e, libre, libre == u"12"_s ? 1 : 9, true).existe,
+             qPrintable(libre));
+  }
+  for (const QString& vacio : {u""_s, u"0"_s, u"-4"_s}) {
+    r = bcomprobarSiExisteDescNumerica(e, vacio, 2, true);
+    QVERIFY(r.existe);
+    QCOMPARE(r.aviso, u"Es necesario que ingrese una descripción numérica."_s);
+  }
+  // A deleted product's barcode still blocks; an empty barcode clashes with none.
+  QVERIFY(existeCodBarras(e, u"8410001"_s, 3));
+  QVERIFY(!existeCodBarras(e, u"8410001"_s, 2));
+  QVERIFY(!existeCodBarras(e, u""_s, 3));
+}
+
+void TestLogica::unFalloDeLaBaseSeRegistraConSuContexto() {
+  InstalacionPrueba prueba;
+  Entorno& e = prueba.entorno();
+  // An apostrophe breaks the statement, as it always has: logged, not a clash.
+  QVERIFY(!bcomprobarSiExisteNombre(e, u"D'Artagnan"_s, 1));
+  QVERIFY(!existeCodBarras(e, u"12'3"_s, 1));
+  prueba.ejecutar({u"drop table productos"_s, u"drop table impresoras"_s});
+  QCOMPARE(SiguienteCodigo(e), std::nullopt);
+  QCOMPARE(ValorPonerOrden(e), std::nullopt);
+  QCOMPARE(ValorMensajeNumero(e, 1), std::nullopt);
+  QVERIFY(!bcomprobarSiExisteDescNumerica(e, u"4"_s, 1, true).existe);
+  QCOMPARE(LeerListaProductos(e), std::nullopt);
+  QCOMPARE(LeerListaProductosPorTipo(e, u"barra"_s), std::nullopt);
+  const ImpresorasDisponibles impresoras = CargarImpresorasDisponibles(e);
+  QVERIFY(impresoras.cantidad == 0 && !impresoras.mostrarBotones);
+  QCOMPARE(Contextos(prueba),
+           (QStringList{u"Productos  4"_s, u"Productos  6"_s, u"Productos  1"_s, u"Productos  2"_s,
+                        u"Productos  3"_s, u"Productos  5"_s, u"ListaProductos  1"_s,
+                        u"ListaProductos  2"_s, u"Impresoras  1"_s}));
+  // Logged without the notice of an empty list.
+  QVERIFY(prueba.dialogos().llamadas().isEmpty());
+}
+
+void TestLogica::lineasDeLasListas() {
+  QCOMPARE(LineaLista(u"Tortilla"_s, u"3"_s), u"Tortilla"_s + QString(120, u' ') + u"3"_s);
+  QCOMPARE(CodigoDeLineaLista(LineaLista(u"X"_s, u"1234567890"_s)), u"1234567890"_s);
+  QCOMPARE(CodigoDeLineaLista(LineaLista(u"X"_s, u"12345678901"_s)), u"2345678901"_s);
+  const QString linea = LineaProveedor(u"Frutas  Paco"_s, u"PRV123"_s);
+  QCOMPARE(linea, u"Frutas  Paco"_s + QString(120, u' ') + u"PRV123"_s);
+  QCOMPARE(CodigoDeLineaProveedor(linea), u"PRV123"_s);
+  QCOMPARE(NombreDeLineaProveedor(linea), u"Frutas  Paco"_s);
+  // Only six characters are read back: a longer code is cut.
+  QCOMPARE(CodigoDeLineaProveedor(LineaProveedor(u"X"_s, u"ABCDEFG"_s)), u"BCDEFG"_s);
+  QVERIFY(bProveedorAsignado({linea, LineaProveedor(u"B"_s, u"9"_s)}, u"9"_s));
+  QVERIFY(!bProveedorAsignado({linea}, u"PRV12"_s));
+}
+
+void TestLogica::proveedoresDeUnProducto() {
+  InstalacionPrueba prueba;
+  prueba.ejecutar(
+      {Proveedor(u"1"_s, u"Mahou"_s), Proveedor(u"2"_s, u"Pescanova"_s),
+       u"insert into productos (codigo, nombre, proveedor) values ('8', 'Merluza', '1')"_s,
+       u"insert into productoproveedor values ('8', '2', 4.5)"_s,
+       u"insert into productoproveedor values ('80', '2', 4.5)"_s});
+  // A main supplier with no link of its own is listed as assigned and as free.
+  const ListasProveedores listas = CargarListasProveedores(prueba.entorno(), 8);
+  QCOMPARE(listas.asignados, (QStringList{LineaProveedor(u"Mahou"_s, u"1"_s),
+                                          LineaProveedor(u"Pescanova"_s, u"2"_s)}));
+  QCOMPARE(listas.libres, QStringList{LineaProveedor(u"Mahou"_s, u"1"_s)});
+  // The table refuses the second supplier half-way through the save: the old links stay.
+  prueba.ejecutar({u"alter table productoproveedor rename to viejos"_s,
+                   u"create table productoproveedor (producto text, proveedor text check "
+                   "(proveedor <> '3'), coste double)"_s,
+                   u"insert into productoproveedor select * from viejos"_s});
+  QVERIFY(!GuardarProveedores(prueba.entorno(), 80,
+                              {LineaProveedor(u"A"_s, u"1"_s), LineaProveedor(u"B"_s, u"3"_s)}));
+  QCOMPARE(prueba.filas(kEnlaces),
+           (QList<QVariantList>{{u"8"_s, u"2"_s, 4.5}, {u"80"_s, u"2"_s, 4.5}}));
+  QCOMPARE(Contextos(prueba), QStringList{u"Proveedores  3"_s});
+}
+
+void TestLogica::impresorasYOpcionesGuardadas() {
+  InstalacionPrueba prueba;
+  prueba.ejecutar({Impresora(4, u"Cocina"_s), Impresora(7, u"Barra"_s)});
+  QVERIFY(!CargarImpresorasDisponibles(prueba.entorno()).mostrarBotones);
+  prueba.ejecutar({Impresora(9, u"Terraza"_s)});
+  const ImpresorasDisponibles tres = CargarImpresorasDisponibles(prueba.entorno());
+  QVERIFY(tres.mostrarBotones);
+  QCOMPARE(tres.nombres, (QStringList{u"Cocina"_s, u"Barra"_s, u"Terraza"_s}));
+  QCOMPARE(tres.codigos, (QStringList{u"4"_s, u"7"_s, u"9"_s}));
+  QCOMPARE(CodigoImpresoraAceptada({u"4"_s, u""_s, u"9"_s}, 1), u"0"_s);
+  QCOMPARE(CodigoImpresoraAceptada({}, 0), u"0"_s);
+  QCOMPARE(ValorHechoEn(true, true), std::optional<int>(2));  // kitchen first
+  QCOMPARE(ValorHechoEn(false, false), std::nullopt);
+  QCOMPARE(ValorTipoProd(false, false, true), std::optional<int>(0));
+  QCOMPARE(ValorTipoProd(false, false, false), std::nullopt);
+}
+
+void TestLogica::imagenes() {
+  InstalacionPrueba prueba;
+  QTemporaryDir origen;
+  Entorno& e = prueba.entorno();
+  // Not a picture, whatever its name says; nor a missing file.
+  const QString factura = QDir(origen.path()).filePath(u"factura.jpg"_s);
+  QFile texto(factura);
+  QVERIFY(texto.open(QIODevice::WriteOnly) && texto.write("no es una imagen") > 0);
+  texto.close();
+  QCOMPARE(AceptarImagen(e, PantallaImagen::Elaborados, factura), std::nullopt);
+  QCOMPARE(AceptarImagen(e, PantallaImagen::General, factura + u"x"_s), std::nullopt);
+  QCOMPARE(prueba.dialogos().mensajes(),
+           QStringList(2, u"La imágen indicada no tiene un formato válido"_s));
+  QCOMPARE(prueba.dialogos().llamadas().first().icono, ServicioDialogos::Icono::Exclamacion);
+  QCOMPARE(prueba.dialogos().llamadas().first().titulo, TituloPrograma());
+
+  // The folder is "Fotos" here: the same folder, whatever its capitals; a copy never overwrites.
+  const QString fotos = QDir(prueba.carpeta()).filePath(u"Fotos"_s);
+  const QString primera = Imagen(fotos, u"cana.png"_s, 2000, Qt::red);
+  const QByteArray original = Contenido(primera);
+  const std::optional<ImagenElegida> otra = AceptarImagen(
+      e, PantallaImagen::General, Imagen(origen.path(), u"cana.png"_s, 3000, Qt::green));
+  QVERIFY(otra && otra->archivo == u"cana.png"_s);
+  QCOMPARE(Contenido(primera), original);
+  QCOMPARE(QDir(fotos).entryList(QDir::Files), QStringList{u"cana.png"_s});
+  QVERIFY(!QFileInfo::exists(QDir(prueba.carpeta()).filePath(u"fotos"_s)));
+
+  // The elaborated products' pictures go to the database's photo folder, written with '\'.
+  const QString fotosBD = QDir(prueba.carpeta()).filePath(u"fotosBD"_s);
+  e.sesion.rutaFotos = QString(fotosBD).replace(u'/', u'\\') + u'\\';
+  const QString grande = Imagen(origen.path(), u"grande.png"_s, 75001, Qt::blue);
+  QVERIFY(AceptarImagen(e, PantallaImagen::Elaborados, grande));
+  QCOMPARE(Contenido(QDir(fotosBD).filePath(u"grande.png"_s)), Contenido(grande));
+
+  // A colour is stored with red in the lowest byte; a cancelled dialog stores none.
+  prueba.dialogos().siguienteColor(QColor(0x12, 0x34, 0x56));
+  QCOMPARE(ElegirColor(prueba.dialogos(), u"255"_s), std::optional<QString>(u"5649426"_s));
+  QCOMPARE(prueba.dialogos().llamadas().last().texto, QColor(255, 0, 0).name());
+  QCOMPARE(ElegirColor(prueba.dialogos(), u""_s), std::nullopt);
+  QCOMPARE(prueba.dialogos().llamadas().last().texto, QColor(Qt::white).name());
+  QVERIFY(prueba.log().isEmpty());
+}
+
+void TestLogica::grabarSinCamposOpcionales() {
+  InstalacionPrueba prueba;
+  ProductoFormulario p = Cana();
+  p.familia.clear();
+  p.foto.clear();
+  p.color.clear();
+  p.codigoBarras.clear();
+  p.descripcion.clear();
+  p.optBarra = false;
+  p.chkProdEspecial = true;  // an entry product: no place is written
+  p.optAmbos = false;
+  p.optCocinaBarra = true;
+  p.mostrarEnCaja = false;
+  p.margen.clear();
+  p.precio.clear();
+  p.stockActual.clear();
+  p.impresora = u"0"_s;
+  p.descNumerica = u"   "_s;
+  p.posicion = u"0"_s;
+  p.consumiciones = 6.5;
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::optional<qint64>(1));
+  CompararFila(prueba.filas(kColumnasProducto).value(0), u"1"_s, u"Caña"_s, u""_s, u""_s, u"-1"_s,
+               0.6, 0.0, 0.0, 10.0, Hoy(), QVariant(), QVariant(), u"P01"_s, u"Unidades"_s, 5.0, -1,
+               QVariant(), 0, 1, 0, 0, QVariant(), 0);
+  QCOMPARE(prueba.filas(kColumnasStock), (QList<QVariantList>{{1, 0.0, 5.0, 6.5}}));
+}
+
+void TestLogica::elProductoEspecialSegunElPrograma_data() {
+  QTest::addColumn<QString>("tipo");
+  QTest::addColumn<bool>("guardado");
+  QTest::newRow("restaurante") << u"RESTAURANTE"_s << true;
+  QTest::newRow("copas") << u"COPAS"_s << true;
+  QTest::newRow("comida rápida") << u"FASTFOOD"_s << false;
+  QTest::newRow("con minúsculas") << u"Restaurante"_s << false;
+}
+
+void TestLogica::elProductoEspecialSegunElPrograma() {
+  QFETCH(QString, tipo);
+  QFETCH(bool, guardado);
+  InstalacionPrueba prueba;
+  prueba.entorno().sesion.tipo_programa = tipo;
+  ProductoFormulario p = Cana();
+  p.chkProdEspecial = true;
+  QVERIFY(GrabarProductoNuevo(prueba.entorno(), p));
+  const QVariant valor =
+      prueba.filas(u"select productoespecial from productos"_s).value(0).value(0);
+  QCOMPARE(valor.isNull(), !guardado);
+  QCOMPARE(valor.toInt(), guardado ? -1 : 0);
+}
+
+void TestLogica::modificarConservaLoNoElegido() {
+  InstalacionPrueba prueba;
+  ProductoAntiguo(prueba);
+  prueba.ejecutar({u"delete from stock"_s});
+  ProductoFormulario p = Cana();
+  p.codigo = 5;
+  p.foto.clear();      // no new picture: the stored one stays
+  p.optBarra = false;  // no place chosen: the stored one stays
+  p.consumiciones = 2;
+  QVERIFY(modificarProducto(prueba.entorno(), p));
+  CompararFila(prueba.filas(kColumnasProducto).value(0), u"5"_s, u"Caña"_s, u"Cerveza de barril"_s,
+               u"8410000000017"_s, u"7"_s, 0.6, 1.0, 1.76, 10.0, Hoy(), u"vieja.jpg"_s, 255,
+               u"P01"_s, u"Unidades"_s, 5.0, 0, 2, 2, 12, 3, 2, 0, 0);
+  // The missing stock row is added.
+  QCOMPARE(prueba.filas(kColumnasStock), (QList<QVariantList>{{5, 24.0, 5.0, 2.0}}));
+  QCOMPARE(prueba.filas(kEnlaces),
+           (QList<QVariantList>{{u"5"_s, u"P01"_s, 0.0}, {u"5"_s, u"PRV123"_s, 0.0}}));
+}
+
+void TestLogica::unaGrabacionQueFallaNoDejaNada() {
+  InstalacionPrueba prueba;
+  ProductoAntiguo(prueba);
+  const auto todo = [&] {
+    return prueba.filas(kColumnasProducto) + prueba.filas(kColumnasStock) + prueba.filas(kEnlaces);
+  };
+  const QList<QVariantList> antes = todo();
+  ProductoFormulario p = Cana();
+  p.codigo = 44;
+  QVERIFY(!modificarProducto(prueba.entorno(), p));
+  // A margin that is no number is not among the required checks: it stops the save.
+  p.margen = u"uno"_s;
+  QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::nullopt);
+  // The stock row fails after the product's row was written: the whole save is undone.
+  QSqlQuery q(prueba.conexion().bd());
+  QVERIFY2(q.exec(u"create trigger bloqueo before update on stock begin select raise(abort, "
+                  "'stock bloqueado'); end"_s),
+           qPrintable(q.lastError().text()));
+  p = Cana();
+  p.codigo = 5;
+  QVERIFY(!modificarProducto(prueba.entorno(), p));
+  QCOMPARE(todo(), antes);
+  QCOMPARE(prueba.log(),
+           QByteArray("Productos  8, Descripcion: No existe el producto 44\r\n"
+                      "Productos  7, Descripcion: El valor \xABuno\xBB no es v\xE1lido para el "
+                      "campo MargenComercial\r\n"
+                      "Productos  8, Descripcion: stock bloqueado\r\n"));
+}
+
+QTEST_MAIN(TestLogica)
+#include "test_logica.moc"
