@@ -54,40 +54,22 @@ bool FormularioPrueba::mostrar() {
 
 QString Producto(const QString& codigo, const QString& nombre,
                  const QList<QPair<QString, QString>>& columnas) {
-  QList<QPair<QString, QString>> valores = {
-      {u"codigo"_s, u"'"_s + codigo + u"'"_s},
-      {u"nombre"_s, u"'"_s + nombre + u"'"_s},
-      {u"borrar"_s, u"0"_s},
-      {u"mostrarencaja"_s, u"0"_s},
-      {u"coste"_s, u"1"_s},
-      {u"precio"_s, u"2"_s},
-      {u"iva"_s, u"10"_s},
-      {u"margencomercial"_s, u"0"_s},
-      {u"seccion"_s, u"'-1'"_s},
-      {u"tipoprod"_s, u"1"_s},
-      {u"hechoen"_s, u"1"_s},
-      {u"unidadMedida"_s, u"'Unidades'"_s},
-      {u"impresora"_s, u"0"_s},
-  };
+  QStringList nombres =
+      u"codigo nombre borrar mostrarencaja coste precio iva margencomercial "
+      "seccion tipoprod hechoen unidadmedida impresora"_s.split(u' ');
+  QStringList valores =
+      (u"'"_s + codigo + u"'|'"_s + nombre + u"'|0|0|1|2|10|0|'-1'|1|1|'Unidades'|0"_s).split(u'|');
   for (const auto& [columna, valor] : columnas) {
-    bool cambiada = false;
-    for (auto& v : valores) {
-      if (v.first.compare(columna, Qt::CaseInsensitive) == 0) {
-        v.second = valor;
-        cambiada = true;
-      }
+    const qsizetype i = nombres.indexOf(columna.toLower());
+    if (i < 0) {
+      nombres.append(columna);
+      valores.append(valor);
+    } else {
+      valores[i] = valor;
     }
-    if (!cambiada)
-      valores.append({columna, valor});
-  }
-  QStringList nombres;
-  QStringList literales;
-  for (const auto& [columna, valor] : valores) {
-    nombres.append(columna);
-    literales.append(valor);
   }
   return u"insert into productos ("_s + nombres.join(u", "_s) + u") values ("_s +
-         literales.join(u", "_s) + u")"_s;
+         valores.join(u", "_s) + u")"_s;
 }
 
 QString Stock(const QString& codigo, const QString& stock, const QString& minimo) {

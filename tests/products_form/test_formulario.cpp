@@ -29,23 +29,13 @@ QStringList Catalogo() {
           u"insert into seccion (codigo, nombre, borrar, menu, orden) values "
           "('F3', 'Menú del día', 0, -1, 0), ('F4', 'Vieja', -1, 0, 3)"_s,
           Impresora(3, u"Barra"_s),
-          Producto(u"1"_s, u"Agua"_s,
-                   {{u"coste"_s, u"0.6"_s},
-                    {u"precio"_s, u"1.76"_s},
-                    {u"margencomercial"_s, u"0.5"_s},
-                    {u"seccion"_s, u"'F1'"_s},
-                    {u"codigobarras"_s, u"'8410000000017'"_s},
-                    {u"orden"_s, u"4"_s},
-                    {u"descripcion"_s, u"'De manantial'"_s},
-                    {u"foto"_s, u"'agua.png'"_s},
-                    {u"color"_s, u"255"_s},
-                    {u"descnumerica"_s, u"12"_s},
-                    {u"proveedor"_s, u"'P1'"_s},
-                    {u"unidadMedida"_s, u"'Litros'"_s},
-                    {u"hechoen"_s, u"2"_s},
-                    {u"impresora"_s, u"3"_s},
-                    {u"tipoprod"_s, u"2"_s},
-                    {u"productoespecial"_s, u"-1"_s}}),
+          u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
+          "MargenComercial, Precio, IVA, Foto, color, proveedor, unidadMedida, MostrarEnCaja, "
+          "hechoen, tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar) values "
+          "('1', 'Agua', 'De manantial', '8410000000017', 'F1', 0.6, 0.5, 1.76, 10, 'agua.png', "
+          "255, 'P1', 'Litros', 0, 2, 2, 12, 4, 3, -1, 0), "
+          "('5', 'Tortilla', 'De patatas', '', 'F1', 2.5, 0, 6, 10, null, 65280, null, null, 0, "
+          "1, 1, 31, null, 3, 0, 0)"_s,
           Stock(u"1"_s, u"24"_s, u"6"_s),
           Producto(u"2"_s, u"Bocadillo"_s,
                    {{u"hechoen"_s, u"0"_s},
@@ -57,15 +47,6 @@ QStringList Catalogo() {
           Producto(u"3"_s, u"Café"_s, {{u"foto"_s, u"'falta.png'"_s}}),
           Stock(u"3"_s, u"0"_s, u"0"_s),
           Producto(u"4"_s, u"Zumo"_s),
-          Producto(u"5"_s, u"Tortilla"_s,
-                   {{u"coste"_s, u"2.5"_s},
-                    {u"precio"_s, u"6"_s},
-                    {u"seccion"_s, u"'F1'"_s},
-                    {u"descripcion"_s, u"'De patatas'"_s},
-                    {u"descnumerica"_s, u"31"_s},
-                    {u"orden"_s, u"null"_s},
-                    {u"impresora"_s, u"3"_s},
-                    {u"color"_s, u"65280"_s}}),
           Stock(u"5"_s, u"0"_s, u"0"_s),
           u"insert into productoElaborado_producto values ('5', '1', 3)"_s,
           Producto(u"9"_s, u"Viejo"_s, {{u"borrar"_s, u"-1"_s}})};
@@ -136,11 +117,6 @@ void TestFormulario::alCargar() {
            (QList<QVariantList>{{u"frmProductos1024"_s, u"5"_s, 1}}));
   QCOMPARE(f.inst().filas(u"select nombreEjecutable from EjecutablesTraduccion"_s),
            (QList<QVariantList>{{u"productos-frmProductos1024"_s}}));
-  QCOMPARE(f.inst()
-               .filas(u"select caption from traducciones where caption in "
-                      "('Stock mínimo', 'Seleccione sus proveedores')"_s)
-               .size(),
-           2);
   // The live families that are no menu, in their order, on both panels.
   for (const QString& nombre : {u"PanelFamilias"_s, u"PanelFamilias_Elab"_s}) {
     QStringList codigos;
@@ -493,14 +469,6 @@ void TestFormulario::navegaConSusAvisosYSusTeclas() {
   Tecla(Qt::Key_PageDown);
   QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
   QCOMPARE(f.dialogos().mensajes().size(), 2);
-
-  // With no product the arrows do nothing.
-  FormularioPrueba vacio;
-  QVERIFY(vacio.mostrar());
-  Pulsar(vacio, u"cmd_ProdGenerico"_s);
-  for (int i = 0; i < 4; ++i)
-    Pulsar(vacio, u"bt_botones_%1"_s.arg(i));
-  QVERIFY(vacio.dialogos().llamadas().isEmpty() && vacio.inst().erroresMostrados().isEmpty());
 }
 
 void TestFormulario::laListaDeProductos() {
@@ -537,16 +505,10 @@ void TestFormulario::laListaDeProductos() {
   QTRY_VERIFY(!Visible(f, u"frListaProductos"_s));
   QCOMPARE(Texto(f, u"txt_nombre"_s), u"Café"_s);
   QCOMPARE(f.forma().estado().codigoActual, 3);
-  // Leaving the screen takes the list away; with no live product it does not open.
+  // Leaving the screen takes the list away.
   Pulsar(f, u"cmd_ListaProd"_s);
   Pulsar(f, u"cmd_salir"_s);
   QVERIFY(f.control<QWidget>(u"frListaProductos"_s)->isHidden());
-  f.inst().ejecutar({u"update productos set borrar = -1"_s});
-  f.dialogos().olvidar();
-  Pulsar(f, u"cmd_ProdGenerico"_s);
-  Pulsar(f, u"cmd_ListaProd"_s);
-  QCOMPARE(f.dialogos().mensajes(), QStringList{u"No hay productos dados de alta."_s});
-  QVERIFY(!Visible(f, u"frListaProductos"_s));
 }
 
 void TestFormulario::lasSalidasYElProgramaDePrecios() {
