@@ -161,11 +161,9 @@ class TestAlta : public QObject {
   void unGerenteDaDeAltaUnProductoSimple();
   void modificarReescribeElProductoSuStockYSusProveedores();
   void eliminarPreguntaYSoloConSiMarcaElProducto();
-  void unFalloAlGrabarDejaElProductoEnPantallaSinTocarNada();
   void lasComprobacionesDelFormulario();
   void laDescripcionNumericaSoloSeCompruebaAlModificar();
   void elPanelDeProveedores();
-  void losProveedoresDeUnNuevoSinGuardarSeQuitan();
   void aceptarSoloLeeElCatalogoDondeSusSentenciasLoPiden();
 };
 
@@ -173,6 +171,33 @@ void TestAlta::unGerenteDaDeAltaUnProductoSimple() {
   FormularioPrueba f(Catalogo());
   const QString foto = Imagen(f.inst().carpeta() + u"/mis fotos"_s, u"vermut.png"_s, 300, Qt::red);
   Abrir(f);
+  Pulsar(f, u"cmd_nuevo"_s);
+  QTest::keyClicks(f.control<QLineEdit>(u"txt_nombre"_s), u"Vermut"_s);
+  QVERIFY(!Visible(f, u"cbo_Medida"_s));
+  Proveedores(f, {});
+  QCOMPARE(Texto(f, u"lblProducto"_s), u"Vermut"_s);
+  QCOMPARE(Lineas(f, u"lb_Proveedores"_s).size(), 3);
+  QVERIFY(Lineas(f, u"lb_ProveedoresAsignados"_s).isEmpty());
+  // Accepting with nobody assigned keeps the caption and leaves no link.
+  Pulsar(f, u"cmd_AceptarProveedor"_s);
+  QCOMPARE(f.control<QPushButton>(u"cmd_Proveedor"_s)->text(), u"Seleccione sus proveedores"_s);
+  const QList<QVariantList> antes = f.inst().filas(kEnlaces);
+  Proveedores(f, {u"Bodegas Norte"_s, u"Distribuciones Sur"_s});
+  Pulsar(f, u"cmd_AceptarProveedor"_s);
+  // Written at once, although the product is not saved yet; the unit comes next.
+  QCOMPARE(f.inst().filas(kEnlaces).mid(0, 2),
+           (QList<QVariantList>{{u"10"_s, u"P1"_s, 0.0}, {u"10"_s, u"P2"_s, 0.0}}));
+  QVERIFY(Visible(f, u"cbo_Medida"_s) && AlFrente(f, u"cbo_Medida"_s));
+  // Abandoned: the links of the product that was never saved go, the others stay; what the new
+  // product hid is on show again for the saved one.
+  Pulsar(f, u"cmd_cancelar"_s);
+  QCOMPARE(f.inst().filas(kEnlaces), antes);
+  EnNavegacion(f, u"Agua"_s);
+  Exigir(f, &Visible,
+         u"txt_coste txt_precio txt_stock_minimo cbo_Medida Label6 opt_ambos ch_Mostrar "
+         "optCocina pict_imagen lblPos"_s,
+         true);
+  QVERIFY(!Visible(f, u"frOcultarGen"_s));
   Pulsar(f, u"cmd_nuevo"_s);
   // The next position and numeric description among live products, the deleted one aside.
   QCOMPARE(Texto(f, u"lblPos"_s), u"9"_s);
@@ -268,6 +293,20 @@ void TestAlta::modificarReescribeElProductoSuStockYSusProveedores() {
            (QList<QVariantList>{{u"Agua"_s, 2.0}}));
   EnNavegacion(f, u"Tinto de verano"_s);
   QCOMPARE(f.control<QPushButton>(u"cmd_Proveedor"_s)->text(), u"Distribuciones Sur"_s);
+  const QList<QVariantList> antes = Fila(f, u"5"_s) + f.inst().filas(kEnlaces);
+  Pulsar(f, u"cmd_modificar"_s);
+  Escribir(f, u"txt_nombre"_s, u"Tinto"_s);
+  // The stock's table is gone from under the program: the product's row is written first, the
+  // stock's fails, and the whole save is undone.
+  f.inst().ejecutar({u"drop table stock"_s});
+  Pulsar(f, u"cmd_aceptar"_s);
+  QCOMPARE(f.inst().erroresMostrados().size(), 1);
+  QCOMPARE(f.inst().erroresMostrados().first().first, u"Productos  8"_s);
+  QCOMPARE(Fila(f, u"5"_s) + f.inst().filas(kEnlaces), antes);
+  // The manager's changes are still there, to be saved again.
+  QVERIFY(Activo(f, u"cmd_aceptar"_s));
+  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Tinto"_s);
+  QVERIFY(!f.control<QLineEdit>(u"txt_nombre"_s)->isReadOnly());
 }
 
 void TestAlta::eliminarPreguntaYSoloConSiMarcaElProducto() {
@@ -310,25 +349,6 @@ void TestAlta::eliminarPreguntaYSoloConSiMarcaElProducto() {
   QTest::mouseClick(uno.control<QPushButton>(u"cmd_modificar"_s), Qt::LeftButton);
   QVERIFY(!Activo(uno, u"cmd_aceptar"_s));
   QCOMPARE(uno.inst().filas(u"select borrar from productos"_s), (QList<QVariantList>{{-1}}));
-}
-
-void TestAlta::unFalloAlGrabarDejaElProductoEnPantallaSinTocarNada() {
-  FormularioPrueba f(Catalogo());
-  Abrir(f, u"Tinto"_s);
-  const QList<QVariantList> antes = Fila(f, u"5"_s) + f.inst().filas(kEnlaces);
-  Pulsar(f, u"cmd_modificar"_s);
-  Escribir(f, u"txt_nombre"_s, u"Tinto de verano"_s);
-  // The stock's table is gone from under the program: the product's row is written first, the
-  // stock's fails, and the whole save is undone.
-  f.inst().ejecutar({u"drop table stock"_s});
-  Pulsar(f, u"cmd_aceptar"_s);
-  QCOMPARE(f.inst().erroresMostrados().size(), 1);
-  QCOMPARE(f.inst().erroresMostrados().first().first, u"Productos  8"_s);
-  QCOMPARE(Fila(f, u"5"_s) + f.inst().filas(kEnlaces), antes);
-  // The manager's changes are still there, to be saved again.
-  QVERIFY(Activo(f, u"cmd_aceptar"_s));
-  QCOMPARE(Texto(f, u"txt_nombre"_s), u"Tinto de verano"_s);
-  QVERIFY(!f.control<QLineEdit>(u"txt_nombre"_s)->isReadOnly());
 }
 
 void TestAlta::lasComprobacionesDelFormulario() {
@@ -469,38 +489,6 @@ void TestAlta::elPanelDeProveedores() {
   QCOMPARE(f.inst().filas(u"select proveedor from productos where codigo = '5'"_s),
            (QList<QVariantList>{{u"P2"_s}}));
   QVERIFY(f.inst().erroresMostrados().isEmpty());
-}
-
-void TestAlta::losProveedoresDeUnNuevoSinGuardarSeQuitan() {
-  FormularioPrueba f(Catalogo());
-  Abrir(f);
-  Pulsar(f, u"cmd_nuevo"_s);
-  QTest::keyClicks(f.control<QLineEdit>(u"txt_nombre"_s), u"Vermut"_s);
-  QVERIFY(!Visible(f, u"cbo_Medida"_s));
-  Proveedores(f, {});
-  QCOMPARE(Texto(f, u"lblProducto"_s), u"Vermut"_s);
-  QCOMPARE(Lineas(f, u"lb_Proveedores"_s).size(), 3);
-  QVERIFY(Lineas(f, u"lb_ProveedoresAsignados"_s).isEmpty());
-  // Accepting with nobody assigned keeps the caption and leaves no link.
-  Pulsar(f, u"cmd_AceptarProveedor"_s);
-  QCOMPARE(f.control<QPushButton>(u"cmd_Proveedor"_s)->text(), u"Seleccione sus proveedores"_s);
-  const QList<QVariantList> antes = f.inst().filas(kEnlaces);
-  Proveedores(f, {u"Bodegas Norte"_s, u"Distribuciones Sur"_s});
-  Pulsar(f, u"cmd_AceptarProveedor"_s);
-  // Written at once, although the product is not saved yet; the unit comes next.
-  QCOMPARE(f.inst().filas(kEnlaces).mid(0, 2),
-           (QList<QVariantList>{{u"10"_s, u"P1"_s, 0.0}, {u"10"_s, u"P2"_s, 0.0}}));
-  QVERIFY(Visible(f, u"cbo_Medida"_s) && AlFrente(f, u"cbo_Medida"_s));
-  // Abandoned: the links of the product that was never saved go, the others stay; what the new
-  // product hid is on show again for the saved one.
-  Pulsar(f, u"cmd_cancelar"_s);
-  QCOMPARE(f.inst().filas(kEnlaces), antes);
-  EnNavegacion(f, u"Agua"_s);
-  Exigir(f, &Visible,
-         u"txt_coste txt_precio txt_stock_minimo cbo_Medida Label6 opt_ambos ch_Mostrar "
-         "optCocina pict_imagen lblPos"_s,
-         true);
-  QVERIFY(!Visible(f, u"frOcultarGen"_s));
 }
 
 // The rows that an accept reads grow with the catalogue only through the two statements that

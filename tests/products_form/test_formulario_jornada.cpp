@@ -90,8 +90,7 @@ class TestFormularioJornada : public QObject {
   void tabSigueLaPantallaYElFocoSeVe();
   void cadaPantallaEnteraYLegible();
   void elTecladoEnPantalla();
-  void elFocoPintaElCampoYSusTeclasPasanLaRegla();
-  void elCosteElIvaYElMargen();
+  void losImportes();
   void laCantidadDeUnComponente();
   void elElaboradoMuestraSusCamposPasoAPaso();
 };
@@ -216,6 +215,10 @@ void TestFormularioJornada::elTecladoEnPantalla() {
   coste->clear();
   Teclear(*f, u"3,257"_s);
   QCOMPARE(coste->text(), u"3,25"_s + QChar(0));
+  // The minimum stock takes digits only.
+  TocarCampo(*f, u"txt_stock_minimo"_s)->clear();
+  Teclear(*f, u"2,A5"_s);
+  QCOMPARE(Texto(*f, u"txt_stock_minimo"_s), u"25"_s);
   // In the quantity of a component, Enter accepts a quantity above 0.
   MostrarMarco(f->control<QWidget>(u"fr_Cantidad"_s));
   TocarCampo(*f, u"txt_Cantidad"_s)->setText(u"0"_s);
@@ -224,7 +227,7 @@ void TestFormularioJornada::elTecladoEnPantalla() {
   QCOMPARE(Texto(*f, u"txt_Cantidad"_s), QString());
 }
 
-void TestFormularioJornada::elFocoPintaElCampoYSusTeclasPasanLaRegla() {
+void TestFormularioJornada::losImportes() {
   std::unique_ptr<FormularioPrueba> f(Abrir());
   Pulsar(*f, u"cmd_modificar"_s);
   // Change mode gives the name the focus; a touch in a field that has it only moves the caret.
@@ -249,11 +252,7 @@ void TestFormularioJornada::elFocoPintaElCampoYSusTeclasPasanLaRegla() {
   QCOMPARE(minimo->selectedText(), u"1"_s);
   QTest::keyClicks(minimo, u"2,5a."_s);
   QCOMPARE(minimo->text(), u"25"_s);
-}
 
-void TestFormularioJornada::elCosteElIvaYElMargen() {
-  std::unique_ptr<FormularioPrueba> f(Abrir());
-  Pulsar(*f, u"cmd_modificar"_s);
   auto* margen = f->control<QLineEdit>(u"txt_margen"_s);
   auto* precio = f->control<QLineEdit>(u"txt_precio"_s);
   // The margin with no cost: a notice for each key, and the key goes in.

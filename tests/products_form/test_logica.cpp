@@ -72,9 +72,6 @@ class TestLogica : public QObject {
   void init() { QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain)); }
   void reglaDecimal_data();
   void reglaDecimal();
-  void tecladoEnPantallaSegunElCampo_data();
-  void tecladoEnPantallaSegunElCampo();
-  void precioYMargen();
   void esNumerico_data();
   void esNumerico();
   void lasComprobacionesVanEnSuOrden_data();
@@ -121,37 +118,6 @@ void TestLogica::reglaDecimal() {
     QCOMPARE(TeclaSoloDigitos(tecla), tecla);
   for (int tecla : {int(','), int('.'), int('a'), int('-'), teclas::kEscape, 22})
     QCOMPARE(TeclaSoloDigitos(tecla), 0);
-}
-
-void TestLogica::tecladoEnPantallaSegunElCampo_data() {
-  QTest::addColumn<QString>("campo");
-  QTest::addColumn<QString>("texto");
-  QTest::addColumn<int>("tecla");
-  QTest::addColumn<QString>("anadido");
-  const QString nulo(QChar(0));
-  QTest::newRow("punto en el coste: coma") << u"txt_coste"_s << u"3"_s << int('.') << u","_s;
-  QTest::newRow("letra en el precio: nulo") << u"txt_precio"_s << u"3"_s << int('A') << nulo;
-  QTest::newRow("impuesto del elaborado: libre")
-      << u"txt_ImpuestoElaborado"_s << u"1"_s << int('A') << u"A"_s;
-  QTest::newRow("su nombre en minúsculas filtra")
-      << u"txt_impuestoelaborado"_s << u"1"_s << int('A') << nulo;
-  QTest::newRow("stock mínimo: nada") << u"txt_stock_minimo"_s << u"1"_s << int(',') << u""_s;
-  QTest::newRow("nombre: tal cual") << u"txt_nombre"_s << u"CA"_s << 0xD1 << u"Ñ"_s;
-}
-
-void TestLogica::tecladoEnPantallaSegunElCampo() {
-  QFETCH(QString, campo);
-  QFETCH(QString, texto);
-  QFETCH(int, tecla);
-  QFETCH(QString, anadido);
-  QCOMPARE(CaracterDeTeclaEnPantalla(campo, texto, tecla, 2, u","_s), anadido);
-}
-
-void TestLogica::precioYMargen() {
-  QCOMPARE(PrecioDesdeMargen(10, 5, 10), 16.5);
-  // The margin taken back from that price keeps the tax on the margin.
-  QCOMPARE(MargenDesdePrecio(16.5, 10, 10), 5.5);
-  QCOMPARE(MargenDesdePrecio(121, 100, 10), 11.0);
 }
 
 void TestLogica::esNumerico_data() {
