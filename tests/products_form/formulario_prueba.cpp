@@ -123,6 +123,11 @@ QString Texto(FormularioPrueba& f, const QString& nombre) {
   return u"<"_s + nombre + u"?>"_s;
 }
 
+QColor ColorMostrado(FormularioPrueba& f, const QString& caja) {
+  const QImage imagen = f.control<QLabel>(caja)->pixmap().toImage();
+  return imagen.isNull() ? QColor() : imagen.pixelColor(imagen.width() / 2, imagen.height() / 2);
+}
+
 QStringList Lineas(FormularioPrueba& f, const QString& lista) {
   QStringList r;
   if (auto* l = f.control<QListWidget>(lista)) {

@@ -75,6 +75,8 @@ void Exigir(FormularioPrueba& f, bool (*estado)(FormularioPrueba&, const QString
 
 // The text of a field or a label of the form.
 QString Texto(FormularioPrueba& f, const QString& nombre);
+// The colour in the middle of the picture a box of the form shows; invalid when there is none.
+QColor ColorMostrado(FormularioPrueba& f, const QString& caja);
 // The lines of a list of the form, in order.
 QStringList Lineas(FormularioPrueba& f, const QString& lista);
 

@@ -61,11 +61,6 @@ void Abrir(FormularioPrueba& f) {
   Pulsar(f, u"cmd_ProdGenerico"_s);
 }
 
-QColor ColorMostrado(FormularioPrueba& f, const QString& caja) {
-  const QImage imagen = f.control<QLabel>(caja)->pixmap().toImage();
-  return imagen.isNull() ? QColor() : imagen.pixelColor(imagen.width() / 2, imagen.height() / 2);
-}
-
 bool Marcada(FormularioPrueba& f, const QString& nombre) {
   const auto* b = f.control<QAbstractButton>(nombre);
   return b && b->isChecked();

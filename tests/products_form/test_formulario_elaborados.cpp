@@ -229,6 +229,8 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
                                {u"40001"_s, u"3"_s, u"10"_s}};
   QCOMPARE(Textos(f, kReceta), receta);
   QVERIFY(Lineas(f, u"lb_ProductosElaborados"_s).contains(LineaLista(nombre, u"40001"_s)));
+  // Saved, the screen shows again what the new product's steps hid.
+  Exigir(f, &Visible, u"lblpospelab lbl_Componentes txt_PrecioElaborado"_s, true);
 
   // One quantity changes: the row is rewritten, the recipe replaced, the stock left alone.
   Activar(f, u"cmd_ModificarProdEla"_s, tacto, Qt::Key_F2);

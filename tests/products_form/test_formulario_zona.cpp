@@ -64,12 +64,6 @@ QString ImpresoraElegida(FormularioPrueba& f) {
   return f.forma().estado().impresoraElegida;
 }
 
-// The colour in the middle of the picture a box shows.
-QColor ColorMostrado(FormularioPrueba& f, const QString& caja) {
-  const QImage imagen = f.control<QLabel>(caja)->pixmap().toImage();
-  return imagen.isNull() ? QColor() : imagen.pixelColor(imagen.width() / 2, imagen.height() / 2);
-}
-
 }  // namespace
 
 class TestFormularioZona : public QObject {
