@@ -278,13 +278,14 @@ void TestAlta::modificarReescribeElProductoSuStockYSusProveedores() {
   Proveedores(f, {u"-Bodegas Norte"_s});
   Pulsar(f, u"cmd_AceptarProveedor"_s);
   Pulsar(f, u"optBarra"_s);
+  f.inst().ejecutar({u"delete from stock where producto = 5"_s});
   Pulsar(f, u"cmd_aceptar"_s);
   QVERIFY(f.dialogos().mensajes().isEmpty());
   // The date of creation becomes today's, as always; no new picture: the stored one stays.
   CompararFila(Fila(f, u"5"_s).value(0), u"5"_s, u"Tinto de verano"_s, u"Vino"_s, u""_s, u"F1"_s,
                2.0, 2.2, 4.4, 10.0, Hoy(), u"tinto.jpg"_s, 65280, u"P1"_s, u"Litros"_s, 3.0, 0, 1,
                1, 40, 8, 2, 0, 0);
-  // A simple product holds no consumptions: the stock row's are written as 0.
+  // The missing stock row is added; a simple product holds no consumptions: written as 0.
   QCOMPARE(f.inst().filas(kColumnasStock + u"where Producto = 5"_s),
            (QList<QVariantList>{{5, 7.0, 3.0, 0.0}}));
   QCOMPARE(f.inst().filas(kEnlaces),

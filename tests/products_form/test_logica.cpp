@@ -1,5 +1,3 @@
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -31,30 +29,12 @@ QString Teclear(const QString& inicio, const QString& teclas, int decimales, con
   return texto;
 }
 
-// A product row with the columns the look-ups read.
-QString Fila(const QString& codigo, const QString& nombre, int borrar, int mostrar,
-             const QString& seccion, int descNumerica, int orden, const QString& barras = {}) {
+// A product row with the columns the look-ups read: code, name, deleted, hidden from the till,
+// family, numeric description, position, barcode.
+QString Fila(const QString& valores) {
   return u"insert into productos (codigo, nombre, borrar, mostrarencaja, seccion, DescNumerica, "
-         "orden, codigobarras) values ('%1', '%2', %3, %4, '%5', %6, %7, '%8')"_s
-             .arg(codigo, nombre)
-             .arg(borrar)
-             .arg(mostrar)
-             .arg(seccion)
-             .arg(descNumerica)
-             .arg(orden)
-             .arg(barras);
-}
-
-// An existing product 5 with its stock row and one supplier link, written long ago.
-void ProductoAntiguo(InstalacionPrueba& prueba) {
-  prueba.ejecutar(
-      {u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
-       "MargenComercial, Precio, IVA, FechaAlta, Foto, color, proveedor, unidadMedida, "
-       "StockMinimo, MostrarEnCaja, hechoen, tipoprod, DescNumerica, Orden, impresora, "
-       "productoespecial, Borrar) values ('5', 'Tinto', 'Vino', '', '3', 1.5, 0, 2.5, 21, "
-       "'2001-02-03', 'vieja.jpg', 65280, 'P09', 'Litros', 2, 0, 2, 0, 40, 8, 0, 0, 0)"_s,
-       u"insert into stock values (5, 9, 2, 4)"_s,
-       u"insert into productoproveedor values ('5', 'P09', 3.25)"_s});
+         "orden, codigobarras) values ("_s +
+         valores + u")"_s;
 }
 
 QStringList Contextos(InstalacionPrueba& prueba) {
@@ -79,12 +59,10 @@ class TestLogica : public QObject {
   void codigosYNumerosPropuestos();
   void loQueChocaConOtroProducto();
   void unFalloDeLaBaseSeRegistraConSuContexto();
-  void lineasYValoresGuardados();
   void proveedoresDeUnProducto();
   void imagenes();
+  void grabarSinCamposOpcionales_data();
   void grabarSinCamposOpcionales();
-  void elProductoEspecialSegunElPrograma();
-  void modificarConservaLoNoElegido();
   void unaGrabacionQueFallaNoDejaNada();
 };
 
@@ -240,12 +218,12 @@ void TestLogica::codigosYNumerosPropuestos() {
   QCOMPARE(ValorPonerOrden(e), std::optional<QString>(u"0"_s));
   QCOMPARE(ValorMensajeNumero(e, 1), std::optional<QString>(u"1"_s));
   prueba.ejecutar(
-      {Fila(u"9"_s, u"A"_s, 0, 0, u"1"_s, 7, 4), Fila(u"10"_s, u"B"_s, 0, 0, u"1"_s, 3, 11),
+      {Fila(u"'9', 'A', 0, 0, '1', 7, 4, ''"_s), Fila(u"'10', 'B', 0, 0, '1', 3, 11, ''"_s),
        // Deleted and hidden products do not count for the proposals.
-       Fila(u"2"_s, u"C"_s, -1, 0, u"1"_s, 90, 90), Fila(u"4"_s, u"D"_s, 0, -1, u"1"_s, 50, 6)});
+       Fila(u"'2', 'C', -1, 0, '1', 90, 90, ''"_s), Fila(u"'4', 'D', 0, -1, '1', 50, 6, ''"_s)});
   // By number, not as text ("9" > "10"), deleted products included.
   QCOMPARE(SiguienteCodigo(e), std::optional<qint64>(11));
-  prueba.ejecutar({Fila(u"25"_s, u"E"_s, -1, 0, u"1"_s, 4, 4)});
+  prueba.ejecutar({Fila(u"'25', 'E', -1, 0, '1', 4, 4, ''"_s)});
   QCOMPARE(SiguienteCodigo(e), std::optional<qint64>(26));
   QCOMPARE(ValorPonerOrden(e), std::optional<QString>(u"12"_s));
   QCOMPARE(ValorMensajeNumero(e, 2), std::optional<QString>(u"8"_s));
@@ -254,10 +232,10 @@ void TestLogica::codigosYNumerosPropuestos() {
 
 void TestLogica::loQueChocaConOtroProducto() {
   InstalacionPrueba prueba;
-  prueba.ejecutar({Fila(u"1"_s, u"Coca Cola"_s, 0, 0, u"3"_s, 12, 1),
-                   Fila(u"2"_s, u"Fanta"_s, -1, 0, u"3"_s, 22, 2, u"8410001"_s),
-                   Fila(u"3"_s, u"Oculto"_s, 0, -1, u"3"_s, 20, 3),
-                   Fila(u"4"_s, u"Sin familia"_s, 0, 0, u"-1"_s, 21, 4)});
+  prueba.ejecutar({Fila(u"'1', 'Coca Cola', 0, 0, '3', 12, 1, ''"_s),
+                   Fila(u"'2', 'Fanta', -1, 0, '3', 22, 2, '8410001'"_s),
+                   Fila(u"'3', 'Oculto', 0, -1, '3', 20, 3, ''"_s),
+                   Fila(u"'4', 'Sin familia', 0, 0, '-1', 21, 4, ''"_s)});
   Entorno& e = prueba.entorno();
   // A name clashes with another live product, whatever its capitals.
   QVERIFY(bcomprobarSiExisteNombre(e, u"coca cola"_s, 5));
@@ -305,26 +283,6 @@ void TestLogica::unFalloDeLaBaseSeRegistraConSuContexto() {
                         u"ListaProductos  2"_s, u"Impresoras  1"_s}));
   // Logged without the notice of an empty list.
   QVERIFY(prueba.dialogos().llamadas().isEmpty());
-}
-
-void TestLogica::lineasYValoresGuardados() {
-  QCOMPARE(LineaLista(u"Tortilla"_s, u"3"_s), u"Tortilla"_s + QString(120, u' ') + u"3"_s);
-  QCOMPARE(CodigoDeLineaLista(LineaLista(u"X"_s, u"1234567890"_s)), u"1234567890"_s);
-  QCOMPARE(CodigoDeLineaLista(LineaLista(u"X"_s, u"12345678901"_s)), u"2345678901"_s);
-  const QString linea = LineaProveedor(u"Frutas  Paco"_s, u"PRV123"_s);
-  QCOMPARE(linea, u"Frutas  Paco"_s + QString(120, u' ') + u"PRV123"_s);
-  QCOMPARE(CodigoDeLineaProveedor(linea), u"PRV123"_s);
-  QCOMPARE(NombreDeLineaProveedor(linea), u"Frutas  Paco"_s);
-  // Only six characters are read back: a longer code is cut.
-  QCOMPARE(CodigoDeLineaProveedor(LineaProveedor(u"X"_s, u"ABCDEFG"_s)), u"BCDEFG"_s);
-  QVERIFY(bProveedorAsignado({linea, LineaProveedor(u"B"_s, u"9"_s)}, u"9"_s));
-  QVERIFY(!bProveedorAsignado({linea}, u"PRV12"_s));
-  // What the options store: kitchen before bar; no option, no value.
-  QCOMPARE(ValorHechoEn(true, true), std::optional<int>(2));
-  QCOMPARE(ValorHechoEn(false, false), std::nullopt);
-  QCOMPARE(ValorTipoProd(false, false, true), std::optional<int>(0));
-  QCOMPARE(ValorTipoProd(false, false, false), std::nullopt);
-  QCOMPARE(CodigoImpresoraAceptada({u"4"_s, u""_s}, 1), u"0"_s);
 }
 
 void TestLogica::proveedoresDeUnProducto() {
@@ -388,8 +346,22 @@ void TestLogica::imagenes() {
   QVERIFY(prueba.log().isEmpty());
 }
 
+void TestLogica::grabarSinCamposOpcionales_data() {
+  // The special product is stored for a restaurant or a bar only, the program type spelt as the
+  // suite spells it.
+  QTest::addColumn<QString>("tipo");
+  QTest::addColumn<QVariant>("especial");
+  QTest::newRow("restaurante") << u"RESTAURANTE"_s << QVariant(-1);
+  QTest::newRow("copas") << u"COPAS"_s << QVariant(-1);
+  QTest::newRow("comida rápida") << u"FASTFOOD"_s << QVariant();
+  QTest::newRow("otras mayúsculas") << u"Restaurante"_s << QVariant();
+}
+
 void TestLogica::grabarSinCamposOpcionales() {
+  QFETCH(QString, tipo);
+  QFETCH(QVariant, especial);
   InstalacionPrueba prueba;
+  prueba.entorno().sesion.tipo_programa = tipo;
   ProductoFormulario p = Cana();
   p.familia.clear();
   p.foto.clear();
@@ -411,73 +383,24 @@ void TestLogica::grabarSinCamposOpcionales() {
   QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::optional<qint64>(1));
   CompararFila(prueba.filas(kColumnasProducto).value(0), u"1"_s, u"Caña"_s, u""_s, u""_s, u"-1"_s,
                0.6, 0.0, 0.0, 10.0, Hoy(), QVariant(), QVariant(), u"P01"_s, u"Unidades"_s, 5.0, -1,
-               QVariant(), 0, 1, 0, 0, QVariant(), 0);
+               QVariant(), 0, 1, 0, 0, especial, 0);
   QCOMPARE(prueba.filas(kColumnasStock), (QList<QVariantList>{{1, 0.0, 5.0, 6.5}}));
-}
-
-void TestLogica::elProductoEspecialSegunElPrograma() {
-  // Stored for a restaurant or a bar only, the program type spelt as the suite spells it.
-  const QList<QPair<QString, QString>> casos = {{u"RESTAURANTE"_s, u"-1"_s},
-                                                {u"COPAS"_s, u"-1"_s},
-                                                {u"FASTFOOD"_s, u"null"_s},
-                                                {u"Restaurante"_s, u"null"_s}};
-  for (const auto& [tipo, esperado] : casos) {
-    InstalacionPrueba prueba;
-    prueba.entorno().sesion.tipo_programa = tipo;
-    ProductoFormulario p = Cana();
-    p.chkProdEspecial = true;
-    QVERIFY(GrabarProductoNuevo(prueba.entorno(), p));
-    const QVariant v = prueba.filas(u"select productoespecial from productos"_s).value(0).value(0);
-    QCOMPARE(v.isNull() ? u"null"_s : v.toString(), esperado);
-  }
-}
-
-void TestLogica::modificarConservaLoNoElegido() {
-  InstalacionPrueba prueba;
-  ProductoAntiguo(prueba);
-  prueba.ejecutar({u"delete from stock"_s});
-  ProductoFormulario p = Cana();
-  p.codigo = 5;
-  p.foto.clear();      // no new picture: the stored one stays
-  p.optBarra = false;  // no place chosen: the stored one stays
-  p.consumiciones = 2;
-  QVERIFY(modificarProducto(prueba.entorno(), p));
-  CompararFila(prueba.filas(kColumnasProducto).value(0), u"5"_s, u"Caña"_s, u"Cerveza de barril"_s,
-               u"8410000000017"_s, u"7"_s, 0.6, 1.0, 1.76, 10.0, Hoy(), u"vieja.jpg"_s, 255,
-               u"P01"_s, u"Unidades"_s, 5.0, 0, 2, 2, 12, 3, 2, 0, 0);
-  // The missing stock row is added.
-  QCOMPARE(prueba.filas(kColumnasStock), (QList<QVariantList>{{5, 24.0, 5.0, 2.0}}));
-  QCOMPARE(prueba.filas(kEnlaces),
-           (QList<QVariantList>{{u"5"_s, u"P01"_s, 0.0}, {u"5"_s, u"PRV123"_s, 0.0}}));
 }
 
 void TestLogica::unaGrabacionQueFallaNoDejaNada() {
   InstalacionPrueba prueba;
-  ProductoAntiguo(prueba);
-  const auto todo = [&] {
-    return prueba.filas(kColumnasProducto) + prueba.filas(kColumnasStock) + prueba.filas(kEnlaces);
-  };
-  const QList<QVariantList> antes = todo();
   ProductoFormulario p = Cana();
   p.codigo = 44;
   QVERIFY(!modificarProducto(prueba.entorno(), p));
   // A margin that is no number is not among the required checks: it stops the save.
   p.margen = u"uno"_s;
   QCOMPARE(GrabarProductoNuevo(prueba.entorno(), p), std::nullopt);
-  // The stock row fails after the product's row was written: the whole save is undone.
-  QSqlQuery q(prueba.conexion().bd());
-  QVERIFY2(q.exec(u"create trigger bloqueo before update on stock begin select raise(abort, "
-                  "'stock bloqueado'); end"_s),
-           qPrintable(q.lastError().text()));
-  p = Cana();
-  p.codigo = 5;
-  QVERIFY(!modificarProducto(prueba.entorno(), p));
-  QCOMPARE(todo(), antes);
+  QVERIFY((prueba.filas(kColumnasProducto) + prueba.filas(kColumnasStock) + prueba.filas(kEnlaces))
+              .isEmpty());
   QCOMPARE(prueba.log(),
            QByteArray("Productos  8, Descripcion: No existe el producto 44\r\n"
                       "Productos  7, Descripcion: El valor \xABuno\xBB no es v\xE1lido para el "
-                      "campo MargenComercial\r\n"
-                      "Productos  8, Descripcion: stock bloqueado\r\n"));
+                      "campo MargenComercial\r\n"));
 }
 
 QTEST_MAIN(TestLogica)
