@@ -7,15 +7,17 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "codigos_producto.h"
 #include "esquema.h"
 #include "formulario_prueba.h"
 #include "listas_productos.h"
 #include "postgres_prueba.h"
+#include "principal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // The recipe page: elaborated products made of components, created, changed and deleted by
-// touch and by keyboard, on SQLite and PostgreSQL.
+// touch and by keyboard, on SQLite and PostgreSQL; and a simple product's save on PostgreSQL.
 
 namespace {
 
@@ -131,8 +133,12 @@ class TestFormularioElaborados : public QObject {
   void lasListasSeLlenanYSeFiltranPorTipo();
   void unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaban_data();
   void unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaban();
+  void unProductoSimpleSeGrabaEnPostgreSQL();
+  void unaBaseDelServidorNoTieneNombreDeArchivo();
 
  private:
+  // A form's installation on a new database of the test server, with the suite's tables.
+  void EnPostgres(InstalacionPrueba& inst);
   std::unique_ptr<PostgresPrueba> pg_;
 };
 
@@ -140,6 +146,12 @@ void TestFormularioElaborados::initTestCase() {
   QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
   pg_ = std::make_unique<PostgresPrueba>();
   QVERIFY2(pg_->arrancado(), qPrintable(pg_->error()));
+}
+
+void TestFormularioElaborados::EnPostgres(InstalacionPrueba& inst) {
+  static int bases = 0;
+  UsarPostgres(inst, pg_->crearBaseDatos(u"base%1"_s.arg(++bases)));
+  CrearEsquema(inst.conexion(), TablasPrincipales());
 }
 
 void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria_data() {
@@ -158,10 +170,7 @@ void TestFormularioElaborados::unGerenteCreaCambiaYBorraUnaSangria() {
   const QString hechoen = tacto ? u"1"_s : u"2"_s;
   FormularioPrueba f;
   if (postgres) {
-    static int bases = 0;
-    const OrigenDatos origen = pg_->crearBaseDatos(u"elaborados%1"_s.arg(++bases));
-    UsarPostgres(f.inst(), origen);
-    CrearEsquema(f.inst().conexion(), TablasPrincipales());
+    EnPostgres(f.inst());
     f.inst().ejecutar(FilasDeLaInstalacion());
   }
   f.inst().ejecutar(Catalogo());
@@ -312,6 +321,52 @@ void TestFormularioElaborados::unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaba
   QVERIFY(f.control<QPushButton>(u"cmd_AceptarProdEl"_s)->isEnabled());  // still changing
   QCOMPARE(f.control<QLineEdit>(u"txt_NombreElaborado"_s)->text(), nombre);
   QCOMPARE(Lineas(f, u"lb_ProductosSel"_s).size(), componente.isEmpty() ? 2 : 3);
+}
+
+// What a simple product's save writes on PostgreSQL must be what the other programs read, column
+// by column.
+void TestFormularioElaborados::unProductoSimpleSeGrabaEnPostgreSQL() {
+  InstalacionPrueba inst;
+  EnPostgres(inst);
+  QCOMPARE(inst.conexion().motor(), Motor::PostgreSQL);
+  inst.ejecutar({u"insert into productos (codigo, nombre, borrar) values ('9', 'Borrado', -1)"_s});
+  // "10" after "9", the deleted one included.
+  QCOMPARE(GrabarProductoNuevo(inst.entorno(), Cana()), std::optional<qint64>(10));
+  const QString producto = kColumnasProducto + u"where codigo = '10'"_s;
+  CompararFila(inst.filas(producto).value(0), u"10"_s, u"Caña"_s, u"Cerveza de barril"_s,
+               u"8410000000017"_s, u"7"_s, 0.6, 1.0, 1.76, 10.0, QDate::currentDate(),
+               u"cana.jpg"_s, 255, u"P01"_s, u"Unidades"_s, 5.0, 0, 1, 2, 12, 3, 2, 0, 0);
+  QCOMPARE(inst.filas(kColumnasStock), (QList<QVariantList>{{10, 24.0, 5.0, 0.0}}));
+  QCOMPARE(inst.filas(kEnlaces),
+           (QList<QVariantList>{{u"10"_s, u"P01"_s, 0.0}, {u"10"_s, u"PRV123"_s, 0.0}}));
+  // Text compares without regard to letter case, as the till expects.
+  QVERIFY(bcomprobarSiExisteNombre(inst.entorno(), u"CAña"_s, 99));
+  QVERIFY(!bcomprobarSiExisteNombre(inst.entorno(), u"CAña"_s, 10));
+
+  ProductoFormulario cambio = Cana();
+  cambio.codigo = 10;
+  cambio.precio = u"2"_s;
+  cambio.foto.clear();
+  cambio.proveedores = {LineaLista(u"Sur"_s, u"PRV123"_s)};
+  QVERIFY(modificarProducto(inst.entorno(), cambio));
+  QCOMPARE(inst.filas(u"select precio, foto, proveedor from productos where codigo = '10'"_s),
+           (QList<QVariantList>{{2.0, u"cana.jpg"_s, u"PRV123"_s}}));
+  QCOMPARE(inst.filas(kEnlaces), (QList<QVariantList>{{u"10"_s, u"PRV123"_s, 0.0}}));
+
+  QVERIFY(EliminarProducto(inst.entorno(), 10));
+  QCOMPARE(inst.filas(u"select borrar from productos where codigo = '10'"_s),
+           (QList<QVariantList>{{-1}}));
+  QVERIFY(inst.filas(kColumnasStock).isEmpty());
+  QVERIFY(inst.erroresMostrados().isEmpty());
+}
+
+// A server's database is no file on a drive: nothing to check.
+void TestFormularioElaborados::unaBaseDelServidorNoTieneNombreDeArchivo() {
+  InstalacionPrueba inst;
+  EnPostgres(inst);
+  UbicarBaseDeDatos(inst.entorno());
+  QVERIFY(!inst.entorno().sesion.BDEnOtraUnidad);
+  QVERIFY(inst.entorno().sesion.RutaFotosBD.isEmpty());
 }
 
 PRODUCTOS_TEST_MAIN(TestFormularioElaborados)
