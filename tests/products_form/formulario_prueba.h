@@ -113,11 +113,16 @@ void TocarLinea(FormularioPrueba& f, const QString& lista, const QString& texto)
 void TocarFamilia(FormularioPrueba& f, const QString& familia,
                   const QString& panel = QStringLiteral("PanelFamilias"));
 
-// Every column of a product row, in the order of the table; the stock row's; the supplier links.
-inline const QString kColumnasProducto = QStringLiteral(
-    "select codigo, nombre, descripcion, codigobarras, seccion, coste, MargenComercial, Precio, "
-    "IVA, FechaAlta, Foto, color, proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
-    "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar from productos ");
+// Every column of a product row, in the order of the table; the insert of products with all of
+// them; the stock row's columns; the supplier links.
+inline const QString kCamposProducto = QStringLiteral(
+    "codigo, nombre, descripcion, codigobarras, seccion, coste, MargenComercial, Precio, IVA, "
+    "FechaAlta, Foto, color, proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
+    "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar");
+inline const QString kColumnasProducto =
+    QStringLiteral("select ") + kCamposProducto + QStringLiteral(" from productos ");
+inline const QString kInsertarProductos =
+    QStringLiteral("insert into productos (") + kCamposProducto + QStringLiteral(") values ");
 inline const QString kColumnasStock =
     QStringLiteral("select Producto, Stock, StockMinimo, ConsumicionesDisponibles from stock ");
 inline const QString kEnlaces = QStringLiteral(

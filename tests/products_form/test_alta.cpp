@@ -21,45 +21,28 @@ namespace {
 // largest code that keeps its barcode. Tinto, long in the catalogue, is bought from two
 // suppliers, the main one P2; "Sin lugar" says nowhere where it is prepared.
 QStringList Catalogo() {
-  const QString productos =
-      u"insert into productos (codigo, nombre, descripcion, codigobarras, "
-      "seccion, coste, MargenComercial, Precio, IVA, FechaAlta, Foto, color, "
-      "proveedor, unidadMedida, StockMinimo, MostrarEnCaja, hechoen, "
-      "tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar) "
-      "values "_s;
-  // A product from its cost on: margin 0, price 2, tax 10, in units, shown on the till, for sale,
-  // no printer; the colour, where it is prepared, the numeric description and position given.
-  const QString resto =
-      u", 0, 2, 10, null, null, %1, null, 'Unidades', null, 0, %2, 1, %3, 0, null, 0)"_s;
-  return {
-      Proveedor(u"P1"_s, u"Distribuciones Sur"_s),
-      Proveedor(u"P2"_s, u"Bodegas Norte"_s),
-      u"insert into proveedores (codigo, nombre, borrar) values ('P3', 'Frutas Ana', -1)"_s,
-      Familia(u"F1"_s, u"Bebidas"_s, 1),
-      Impresora(1, u"Barra"_s),
-      Impresora(2, u"Cocina"_s),
-      Impresora(3, u"Terraza"_s),
-      productos + u"('1', 'Agua', null, null, 'F1', 1"_s + resto.arg(u"255"_s, u"1"_s, u"7, 4"_s) +
-          u", ('3', 'Sin lugar', null, null, '-1', 1"_s +
-          resto.arg(u"null"_s, u"null"_s, u"null, null"_s) +
-          u", ('4', 'Hielo', null, null, '-1', 1"_s + resto.arg(u"null"_s, u"1"_s, u"20, null"_s) +
-          u", ('5', 'Tinto', 'Vino', '', 'F1', 2, 1.1, 3.3, 10, '2001-02-03', 'tinto.jpg', 65280, "
-          "'P2', 'Litros', 2, 0, 2, 1, 40, 8, 2, 0, 0)"_s,
-      Producto(u"2"_s, u"Zumo"_s,
-               {{u"orden"_s, u"2"_s},
-                {u"descnumerica"_s, u"3"_s},
-                {u"seccion"_s, u"'F1'"_s},
-                {u"color"_s, u"255"_s},
-                {u"proveedor"_s, u"'P1'"_s}}),
-      Producto(u"9"_s, u"Viejo"_s,
-               {{u"borrar"_s, u"-1"_s},
-                {u"codigobarras"_s, u"'777'"_s},
-                {u"orden"_s, u"40"_s},
-                {u"descnumerica"_s, u"50"_s}}),
-      u"insert into stock values (1, 20, 5, 0), (2, 8, 2, 0), (3, 1, 1, 0), (4, 0, 0, 0), "
-      "(5, 9, 2, 4)"_s,
-      u"insert into productoproveedor values ('2', 'P1', 0), ('5', 'P1', 3.25), ('5', 'P2', 1)"_s,
-      u"insert into subproductos (CodProductoPadre, CodProductoHijo) values ('5', '1')"_s};
+  return {Proveedor(u"P1"_s, u"Distribuciones Sur"_s),
+          Proveedor(u"P2"_s, u"Bodegas Norte"_s),
+          u"insert into proveedores (codigo, nombre, borrar) values ('P3', 'Frutas Ana', -1)"_s,
+          Familia(u"F1"_s, u"Bebidas"_s, 1),
+          Impresora(1, u"Barra"_s),
+          Impresora(2, u"Cocina"_s),
+          Impresora(3, u"Terraza"_s),
+          kInsertarProductos +
+              u"('1', 'Agua', null, null, 'F1', 1, 0, 2, 10, null, null, 255, null, 'Unidades', "
+              "null, 0, 1, 1, 7, 4, 0, null, 0), ('2', 'Zumo', null, null, 'F1', 1, 0, 2, 10, "
+              "null, null, 255, 'P1', 'Unidades', null, 0, 1, 1, 3, 2, 0, null, 0), ('3', 'Sin "
+              "lugar', null, null, '-1', 1, 0, 2, 10, null, null, null, null, 'Unidades', null, "
+              "0, null, 1, null, null, 0, null, 0), ('4', 'Hielo', null, null, '-1', 1, 0, 2, 10, "
+              "null, null, null, null, 'Unidades', null, 0, 1, 1, 20, null, 0, null, 0), ('5', "
+              "'Tinto', 'Vino', '', 'F1', 2, 1.1, 3.3, 10, '2001-02-03', 'tinto.jpg', 65280, "
+              "'P2', 'Litros', 2, 0, 2, 1, 40, 8, 2, 0, 0), ('9', 'Viejo', null, '777', '-1', 1, "
+              "0, 2, 10, null, null, null, null, 'Unidades', null, 0, 1, 1, 50, 40, 0, null, -1)"_s,
+          u"insert into stock values (1, 20, 5, 0), (2, 8, 2, 0), (3, 1, 1, 0), (4, 0, 0, 0), "
+          "(5, 9, 2, 4)"_s,
+          u"insert into productoproveedor values ('2', 'P1', 0), ('5', 'P1', 3.25), "
+          "('5', 'P2', 1)"_s,
+          u"insert into subproductos (CodProductoPadre, CodProductoHijo) values ('5', '1')"_s};
 }
 
 // Shows the product of that name, walking the simple products from the first.

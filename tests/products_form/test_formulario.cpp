@@ -24,32 +24,24 @@ namespace {
 // Agua; Viejo is deleted.
 QStringList Catalogo() {
   return {Proveedor(u"P1"_s, u"Distribuciones Sur"_s),
-          Familia(u"F1"_s, u"Cervezas"_s, 2),
-          Familia(u"F2"_s, u"Cafés"_s, 1),
-          u"insert into seccion (codigo, nombre, borrar, menu, orden) values "
-          "('F3', 'Menú del día', 0, -1, 0), ('F4', 'Vieja', -1, 0, 3)"_s,
+          u"insert into seccion (codigo, nombre, borrar, menu, orden, mostrarencaja) values "
+          "('F1', 'Cervezas', 0, 0, 2, 0), ('F2', 'Cafés', 0, 0, 1, 0), "
+          "('F3', 'Menú del día', 0, -1, 0, 0), ('F4', 'Vieja', -1, 0, 3, 0)"_s,
           Impresora(3, u"Barra"_s),
-          u"insert into productos (codigo, nombre, descripcion, codigobarras, seccion, coste, "
-          "MargenComercial, Precio, IVA, Foto, color, proveedor, unidadMedida, MostrarEnCaja, "
-          "hechoen, tipoprod, DescNumerica, Orden, impresora, productoespecial, Borrar) values "
-          "('1', 'Agua', 'De manantial', '8410000000017', 'F1', 0.6, 0.5, 1.76, 10, 'agua.png', "
-          "255, 'P1', 'Litros', 0, 2, 2, 12, 4, 3, -1, 0), "
-          "('5', 'Tortilla', 'De patatas', '', 'F1', 2.5, 0, 6, 10, null, 65280, null, null, 0, "
-          "1, 1, 31, null, 3, 0, 0)"_s,
-          Stock(u"1"_s, u"24"_s, u"6"_s),
-          Producto(u"2"_s, u"Bocadillo"_s,
-                   {{u"hechoen"_s, u"0"_s},
-                    {u"mostrarencaja"_s, u"-1"_s},
-                    {u"impresora"_s, u"7"_s},
-                    {u"tipoprod"_s, u"0"_s},
-                    {u"color"_s, u"null"_s}}),
-          Stock(u"2"_s, u"0"_s, u"null"_s),
-          Producto(u"3"_s, u"Café"_s, {{u"foto"_s, u"'falta.png'"_s}}),
-          Stock(u"3"_s, u"0"_s, u"0"_s),
-          Producto(u"4"_s, u"Zumo"_s),
-          Stock(u"5"_s, u"0"_s, u"0"_s),
-          u"insert into productoElaborado_producto values ('5', '1', 3)"_s,
-          Producto(u"9"_s, u"Viejo"_s, {{u"borrar"_s, u"-1"_s}})};
+          kInsertarProductos +
+              u"('1', 'Agua', 'De manantial', '8410000000017', 'F1', 0.6, 0.5, 1.76, 10, null, "
+              "'agua.png', 255, 'P1', 'Litros', null, 0, 2, 2, 12, 4, 3, -1, 0), ('2', "
+              "'Bocadillo', null, null, '-1', 1, 0, 2, 10, null, null, null, null, 'Unidades', "
+              "null, -1, 0, 0, null, null, 7, null, 0), ('3', 'Café', null, null, '-1', 1, 0, 2, "
+              "10, null, 'falta.png', null, null, 'Unidades', null, 0, 1, 1, null, null, 0, null, "
+              "0), ('4', 'Zumo', null, null, '-1', 1, 0, 2, 10, null, null, null, null, "
+              "'Unidades', null, 0, 1, 1, null, null, 0, null, 0), ('5', 'Tortilla', 'De "
+              "patatas', '', 'F1', 2.5, 0, 6, 10, null, null, 65280, null, null, null, 0, 1, 1, "
+              "31, null, 3, 0, 0), ('9', 'Viejo', null, null, '-1', 1, 0, 2, 10, null, null, "
+              "null, null, 'Unidades', null, 0, 1, 1, null, null, 0, null, -1)"_s,
+          u"insert into stock (producto, stock, stockminimo) values (1, 24, 6), (2, 0, null), "
+          "(3, 0, 0), (5, 0, 0)"_s,
+          u"insert into productoElaborado_producto values ('5', '1', 3)"_s};
 }
 
 // A form on the simple products' screen; the pictures are in the photo folder.
