@@ -91,7 +91,6 @@ class TestFormularioJornada : public QObject {
   void cadaPantallaEnteraYLegible();
   void elTecladoEnPantalla();
   void losImportes();
-  void laCantidadDeUnComponente();
   void elElaboradoMuestraSusCamposPasoAPaso();
 };
 
@@ -219,12 +218,26 @@ void TestFormularioJornada::elTecladoEnPantalla() {
   TocarCampo(*f, u"txt_stock_minimo"_s)->clear();
   Teclear(*f, u"2,A5"_s);
   QCOMPARE(Texto(*f, u"txt_stock_minimo"_s), u"25"_s);
-  // In the quantity of a component, Enter accepts a quantity above 0.
+  // In the quantity of a component, Enter accepts a quantity above 0, by either keyboard; the
+  // point types the comma; a rejected key leaves a whole selection as it was; Escape discards.
+  int descartadas = 0;
+  f->forma().importes().descartarCantidad = [&] { ++descartadas; };
   MostrarMarco(f->control<QWidget>(u"fr_Cantidad"_s));
-  TocarCampo(*f, u"txt_Cantidad"_s)->setText(u"0"_s);
+  QLineEdit* cantidad = TocarCampo(*f, u"txt_Cantidad"_s);
+  cantidad->setText(u"0"_s);
   Teclear(*f, u"\r\b3\r"_s);
   QCOMPARE(aceptadas, QList<double>{3.0});
-  QCOMPARE(Texto(*f, u"txt_Cantidad"_s), QString());
+  QCOMPARE(cantidad->text(), QString());
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  QTest::keyClicks(cantidad, u"2.5"_s);
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  QCOMPARE(aceptadas, (QList<double>{3.0, 2.5}));
+  cantidad->setText(u"12"_s);
+  cantidad->selectAll();
+  QTest::keyClicks(cantidad, u"x"_s);
+  QCOMPARE(cantidad->text(), u"12"_s);
+  QTest::keyClick(cantidad, Qt::Key_Escape);
+  QCOMPARE(descartadas, 1);
 }
 
 void TestFormularioJornada::losImportes() {
@@ -301,33 +314,6 @@ void TestFormularioJornada::losImportes() {
   precio->setText(u"3"_s);
   QVERIFY(!Visible(*f, u"frOcultarGen"_s));
   Exigir(*f, &Visible, u"ch_Mostrar lblPreparado optCocina optBarra"_s, true);
-}
-
-void TestFormularioJornada::laCantidadDeUnComponente() {
-  std::unique_ptr<FormularioPrueba> f(Abrir());
-  Pulsar(*f, u"cmd_modificar"_s);
-  QList<double> aceptadas;
-  int descartadas = 0;
-  f->forma().importes().aceptarCantidad = [&](double c) { aceptadas.append(c); };
-  f->forma().importes().descartarCantidad = [&] { ++descartadas; };
-  auto* cantidad = f->control<QLineEdit>(u"txt_Cantidad"_s);
-  // Enter with 0 or nothing does nothing; the point types the comma.
-  cantidad->setText(u"0"_s);
-  QTest::keyClick(cantidad, Qt::Key_Return);
-  cantidad->selectAll();
-  QTest::keyClick(cantidad, Qt::Key_Backspace);
-  QTest::keyClick(cantidad, Qt::Key_Return);
-  QTest::keyClicks(cantidad, u"2.5"_s);
-  QTest::keyClick(cantidad, Qt::Key_Return);
-  QCOMPARE(aceptadas, QList<double>{2.5});
-  QCOMPARE(cantidad->text(), QString());
-  // No clearing of a whole selection: a rejected key leaves the quantity as it was.
-  cantidad->setText(u"12"_s);
-  cantidad->selectAll();
-  QTest::keyClicks(cantidad, u"x"_s);
-  QCOMPARE(cantidad->text(), u"12"_s);
-  QTest::keyClick(cantidad, Qt::Key_Escape);
-  QCOMPARE(descartadas, 1);
 }
 
 void TestFormularioJornada::elElaboradoMuestraSusCamposPasoAPaso() {
