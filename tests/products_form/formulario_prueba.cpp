@@ -17,12 +17,10 @@ QStringList FilasDeLaInstalacion() {
       u"insert into opciones (identificador, idioma, tipo_programa, numDecimales) values "
       "('', 'CASTELLANO', 'RESTAURANTE', 2)"_s,
       u"insert into opciones_terminal (identificador, empleado, id_color) values ('', 5, 1)"_s,
-      // Frames, buttons and text in light blue and dark blue; entry white; focus yellow.
       u"insert into colores (id_color, FondoMarco, FondoMarco2, FondoMarco3, FondoMarco4, "
       "FondoBoton, ColorTexto, FondoEntrada, Zoom1, Zoom2, Zoom3, Zoom4, Separador, Foco, "
       "Resalto) values (1, 15788760, 15261390, 14734020, 14206650, 16316664, 4194304, "
       "16777215, 12632256, 12632256, 12632256, 12632256, 8421504, 65535, 255)"_s,
-      // The captions are gathered already: the load does not write them again.
       u"insert into EjecutablesTraduccion values ('productos-frmProductos1024')"_s,
   };
 }

@@ -16,8 +16,9 @@ using namespace Qt::Literals::StringLiterals;
 // (1024x768 when unset): the keys, the on-screen keyboard, the amounts, the looks.
 namespace {
 
-const QColor kFoco = ColorDesdeValor(kColorFocoPrueba);
-const QColor kCampo = ColorDesdeValor(kColorCampoPrueba);
+// The scheme's focus colour (yellow) and entry colour (white).
+const QColor kFoco = ColorDesdeValor(0x00FFFF);
+const QColor kCampo = ColorDesdeValor(0xFFFFFF);
 
 QSize Pantalla() {
   const QStringList p = qEnvironmentVariable("PRODUCTOS_PANTALLA", u"1024x768"_s).split(u'x');
