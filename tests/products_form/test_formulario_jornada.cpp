@@ -56,16 +56,14 @@ QRect EnVentana(const QWidget* w) {
 // unless `enCaja` says otherwise; eight families fill two pages of the panel.
 FormularioPrueba* Abrir(const QStringList& filas = {}, const QString& enCaja = u"0"_s) {
   QStringList todas = filas;
-  todas << u"insert into proveedores (codigo, nombre, borrar) values ('P1', 'Huerta', 0)"_s
+  todas << Proveedor(u"P1"_s, u"Huerta"_s)
         << Producto(u"1"_s, u"Harina"_s,
                     {{u"mostrarencaja"_s, enCaja},
                      {u"proveedor"_s, u"'P1'"_s},
                      {u"foto"_s, u"'c.png'"_s}})
         << Stock(u"1"_s, u"5"_s, u"1"_s);
-  for (int i = 1; i <= 8; ++i) {
-    todas << u"insert into seccion (codigo, nombre, borrar, menu, orden, mostrarencaja) values "
-             "('F%1', 'Refrescos y aguas %1', 0, 0, %1, 0)"_s.arg(i);
-  }
+  for (int i = 1; i <= 8; ++i)
+    todas << Familia(u"F%1"_s.arg(i), u"Refrescos y aguas %1"_s.arg(i), i);
   auto* f = new FormularioPrueba(todas);
   Imagen(f->inst().carpeta() + u"/fotos"_s, u"c.png"_s, 400, Qt::blue);
   if (f->mostrar())
