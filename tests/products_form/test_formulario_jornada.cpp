@@ -337,10 +337,5 @@ void TestFormularioJornada::elElaboradoMuestraSusCamposPasoAPaso() {
   QVERIFY(Visible(*f, u"txt_PrecioElaborado"_s));
 }
 
-int main(int argc, char** argv) {
-  UsarPantalla(Pantalla().width(), Pantalla().height());
-  QApplication app(argc, argv);
-  TestFormularioJornada prueba;
-  return QTest::qExec(&prueba, argc, argv);
-}
+PRODUCTOS_TEST_MAIN_PANTALLA(TestFormularioJornada, Pantalla().width(), Pantalla().height())
 #include "test_formulario_jornada.moc"
