@@ -4,15 +4,21 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "datos_catalogo.h"
+#include "color_vb.h"
+#include "colorear.h"
 #include "formulario_prueba.h"
-#include "imagen_prueba.h"
+#include "importes.h"
 #include "panel_obj_nuevo.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-// A manager's day on the form, on the screen PRODUCTOS_PANTALLA (1024x768 when unset).
+// A manager's day on the form, by keyboard and by touch, on the screen PRODUCTOS_PANTALLA
+// (1024x768 when unset): the keys, the on-screen keyboard, the amounts, the looks.
 namespace {
+
+// The scheme's focus colour (yellow) and entry colour (white).
+const QColor kFoco = ColorDesdeValor(0x00FFFF);
+const QColor kCampo = ColorDesdeValor(0xFFFFFF);
 
 QSize Pantalla() {
   const QStringList p = qEnvironmentVariable("PRODUCTOS_PANTALLA", u"1024x768"_s).split(u'x');
@@ -50,16 +56,14 @@ QRect EnVentana(const QWidget* w) {
 // unless `enCaja` says otherwise; eight families fill two pages of the panel.
 FormularioPrueba* Abrir(const QStringList& filas = {}, const QString& enCaja = u"0"_s) {
   QStringList todas = filas;
-  todas << u"insert into proveedores (codigo, nombre, borrar) values ('P1', 'Huerta', 0)"_s
+  todas << Proveedor(u"P1"_s, u"Huerta"_s)
         << Producto(u"1"_s, u"Harina"_s,
                     {{u"mostrarencaja"_s, enCaja},
                      {u"proveedor"_s, u"'P1'"_s},
                      {u"foto"_s, u"'c.png'"_s}})
         << Stock(u"1"_s, u"5"_s, u"1"_s);
-  for (int i = 1; i <= 8; ++i) {
-    todas << u"insert into seccion (codigo, nombre, borrar, menu, orden, mostrarencaja) values "
-             "('F%1', 'Refrescos y aguas %1', 0, 0, %1, 0)"_s.arg(i);
-  }
+  for (int i = 1; i <= 8; ++i)
+    todas << Familia(u"F%1"_s.arg(i), u"Refrescos y aguas %1"_s.arg(i), i);
   auto* f = new FormularioPrueba(todas);
   Imagen(f->inst().carpeta() + u"/fotos"_s, u"c.png"_s, 400, Qt::blue);
   if (f->mostrar())
@@ -67,29 +71,12 @@ FormularioPrueba* Abrir(const QStringList& filas = {}, const QString& enCaja = u
   return f;
 }
 
-// Best contrast against the most common colour, and height of the rows holding 3:1 or more.
-QPair<double, int> Tinta(const QWidget* w, int izq) {
-  const QImage im = w->window()->grab(EnVentana(w).adjusted(izq, 6, -6, -6)).toImage();
-  QHash<QRgb, int> cuenta;
-  for (int i = 0; i < im.width() * im.height(); ++i)
-    ++cuenta[im.pixel(i % im.width(), i / im.width())];
-  const QRgb fondo =
-      std::max_element(cuenta.keyValueBegin(), cuenta.keyValueEnd(), [](auto a, auto b) {
-        return a.second < b.second;
-      })->first;
-  const auto luz = [](QRgb c) {
-    return 0.2126 * std::pow(qRed(c) / 255.0, 2.2) + 0.7152 * std::pow(qGreen(c) / 255.0, 2.2) +
-           0.0722 * std::pow(qBlue(c) / 255.0, 2.2) + 0.05;
-  };
-  double mejor = 1;
-  int arriba = im.height(), abajo = 0;
-  for (int i = 0; i < im.width() * im.height(); ++i) {
-    const double a = luz(im.pixel(i % im.width(), i / im.width())), b = luz(fondo);
-    mejor = std::max(mejor, std::max(a, b) / std::min(a, b));
-    if (std::max(a, b) / std::min(a, b) >= 3)
-      arriba = std::min(arriba, i / im.width()), abajo = std::max(abajo, i / im.width() + 1);
+// Presses keys of the on-screen keyboard: one character each, "\b" Backspace, "\r" Enter.
+void Teclear(FormularioPrueba& f, const QString& teclas) {
+  for (QChar c : teclas) {
+    const int codigo = c == u'\b' ? 8 : c == u'\r' ? 13 : c.unicode();
+    Pulsar(f, u"bt_letra_%1"_s.arg(codigo));
   }
-  return {mejor, abajo - arriba};
 }
 
 }  // namespace
@@ -100,10 +87,10 @@ class TestFormularioJornada : public QObject {
   void init() { QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain)); }
   void unProductoSeCreaSoloConElTeclado();
   void tabSigueLaPantallaYElFocoSeVe();
-  void losCamposBloqueadosSeLeen_data();
-  void losCamposBloqueadosSeLeen();
-  void elTipoDeLetraYElAumento();
   void cadaPantallaEnteraYLegible();
+  void elTecladoEnPantalla();
+  void losImportes();
+  void elElaboradoMuestraSusCamposPasoAPaso();
 };
 
 void TestFormularioJornada::unProductoSeCreaSoloConElTeclado() {
@@ -158,49 +145,6 @@ void TestFormularioJornada::tabSigueLaPantallaYElFocoSeVe() {
           anillo->geometry().contains(EnVentana(QApplication::focusWidget())));
 }
 
-void TestFormularioJornada::losCamposBloqueadosSeLeen_data() {
-  QTest::addColumn<QStringList>("valores");
-  for (const EsquemaColorDemo& e : EsquemasColor()) {
-    QStringList v{u"1"_s};
-    for (quint32 rgb : e.colores)
-      v << QString::number(ValorSuite(rgb));
-    QTest::newRow(qPrintable(QString::fromUtf16(e.nombre))) << v;
-  }
-}
-
-void TestFormularioJornada::losCamposBloqueadosSeLeen() {
-  QFETCH(QStringList, valores);
-  std::unique_ptr<FormularioPrueba> f(
-      Abrir({u"delete from colores"_s,
-             u"insert into colores values ("_s + valores.join(u", "_s) + u", 'E')"_s}));
-  for (const QString& nombre :
-       {u"cmd_Proveedor"_s, u"opt_Venta"_s, u"optBarra"_s, u"ch_Mostrar"_s}) {
-    const QWidget* w = f->control<QWidget>(nombre);
-    const double c = Tinta(w, nombre.startsWith(u'c') ? 6 : 40).first;
-    QVERIFY2(!w->isEnabled() && c >= 4.5, qPrintable(u"%1: %2:1"_s.arg(nombre).arg(c)));
-  }
-  const QWidget* imagen = f->control<QWidget>(u"pict_imagen"_s);
-  QCOMPARE(f->forma().grab(EnVentana(imagen)).toImage().pixelColor(75, 50), QColor(Qt::blue));
-}
-
-void TestFormularioJornada::elTipoDeLetraYElAumento() {
-  std::unique_ptr<FormularioPrueba> disenio(Abrir());
-  std::unique_ptr<FormularioPrueba> grande(
-      Abrir({u"update opciones_terminal set Tipo_Letra = 3, Aumento_X = 100, Aumento_Y = 100"_s}));
-  const double razon = double(Tinta(grande->control<QWidget>(u"lbl_nombre"_s), 0).second) /
-                       Tinta(disenio->control<QWidget>(u"lbl_nombre"_s), 0).second;
-  QVERIFY2(razon > 1.25 && razon < 1.55, qPrintable(QString::number(razon)));
-  const auto panel = [](std::unique_ptr<FormularioPrueba>& f) {
-    return f->control<PanelObjNuevo>(u"PanelFamilias"_s);
-  };
-  const auto boton = [&](std::unique_ptr<FormularioPrueba>& f) {
-    return panel(f)->findChild<QWidget*>(u"boton_1"_s)->size();
-  };
-  QVERIFY(panel(grande)->botonesPorPagina() < panel(disenio)->botonesPorPagina());
-  QVERIFY(boton(grande).width() > boton(disenio).width() &&
-          boton(grande).height() > boton(disenio).height());
-}
-
 // Every screen is whole: nothing out of the window or cut, the panel with its arrows.
 void TestFormularioJornada::cadaPantallaEnteraYLegible() {
   std::unique_ptr<FormularioPrueba> f(Abrir());
@@ -233,10 +177,165 @@ void TestFormularioJornada::cadaPantallaEnteraYLegible() {
   }
 }
 
-int main(int argc, char** argv) {
-  UsarPantalla(Pantalla().width(), Pantalla().height());
-  QApplication app(argc, argv);
-  TestFormularioJornada prueba;
-  return QTest::qExec(&prueba, argc, argv);
+void TestFormularioJornada::elTecladoEnPantalla() {
+  std::unique_ptr<FormularioPrueba> f(Abrir());
+  // With no field touched yet, the keys do nothing.
+  QVERIFY(!f->forma().importes().campoActual());
+  Teclear(*f, u"A1\b\r"_s);
+  // A locked field: a whole selection is cleared before the lock is looked at, as it always
+  // was, but nothing is written.
+  QLineEdit* nombre = TocarCampo(*f, u"txt_nombre"_s);
+  QCOMPARE(nombre->selectedText(), u"Harina"_s);
+  Teclear(*f, u"X"_s);
+  QCOMPARE(nombre->text(), QString());
+  Teclear(*f, u"X\b"_s);
+  QCOMPARE(nombre->text(), QString());
+
+  Pulsar(*f, u"cmd_modificar"_s);
+  QList<double> aceptadas;
+  f->forma().importes().aceptarCantidad = [&](double c) { aceptadas.append(c); };
+  QLineEdit* descripcion = TocarCampo(*f, u"txt_descripcion"_s);
+  QTRY_COMPARE(f->forma().importes().campoActual(), descripcion);
+  // Written at the end whatever the caret, the last one rubbed out; the focus stays.
+  Teclear(*f, u"BAR"_s);
+  descripcion->home(false);
+  Teclear(*f, u"\u00D1 1\b\b\r"_s);
+  QCOMPARE(descripcion->text(), u"BAR\u00D1"_s);
+  QCOMPARE(QApplication::focusWidget(), descripcion);
+  QVERIFY(aceptadas.isEmpty());
+  // The description's keys mark the suppliers' button as the next step.
+  QCOMPARE(ColorFondo(f->control<QWidget>(u"cmd_Proveedor"_s)), kFoco);
+  descripcion->selectAll();
+  Teclear(*f, u"X"_s);
+  QCOMPARE(descripcion->text(), u"X"_s);
+  // An amount: a refused key still appends, the character of code 0.
+  QLineEdit* coste = TocarCampo(*f, u"txt_coste"_s);
+  coste->clear();
+  Teclear(*f, u"3,257"_s);
+  QCOMPARE(coste->text(), u"3,25"_s + QChar(0));
+  // The minimum stock takes digits only.
+  TocarCampo(*f, u"txt_stock_minimo"_s)->clear();
+  Teclear(*f, u"2,A5"_s);
+  QCOMPARE(Texto(*f, u"txt_stock_minimo"_s), u"25"_s);
+  // In the quantity of a component, Enter accepts a quantity above 0, by either keyboard; the
+  // point types the comma; a rejected key leaves a whole selection as it was; Escape discards.
+  int descartadas = 0;
+  f->forma().importes().descartarCantidad = [&] { ++descartadas; };
+  MostrarMarco(f->control<QWidget>(u"fr_Cantidad"_s));
+  QLineEdit* cantidad = TocarCampo(*f, u"txt_Cantidad"_s);
+  cantidad->setText(u"0"_s);
+  Teclear(*f, u"\r\b3\r"_s);
+  QCOMPARE(aceptadas, QList<double>{3.0});
+  QCOMPARE(cantidad->text(), QString());
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  QTest::keyClicks(cantidad, u"2.5"_s);
+  QTest::keyClick(cantidad, Qt::Key_Return);
+  QCOMPARE(aceptadas, (QList<double>{3.0, 2.5}));
+  cantidad->setText(u"12"_s);
+  cantidad->selectAll();
+  QTest::keyClicks(cantidad, u"x"_s);
+  QCOMPARE(cantidad->text(), u"12"_s);
+  QTest::keyClick(cantidad, Qt::Key_Escape);
+  QCOMPARE(descartadas, 1);
 }
+
+void TestFormularioJornada::losImportes() {
+  std::unique_ptr<FormularioPrueba> f(Abrir());
+  Pulsar(*f, u"cmd_modificar"_s);
+  // Change mode gives the name the focus; a touch in a field that has it only moves the caret.
+  TocarCampo(*f, u"txt_descripcion"_s);
+  QLineEdit* nombre = TocarCampo(*f, u"txt_nombre"_s);
+  QTRY_COMPARE(f->forma().importes().campoActual(), nombre);
+  QCOMPARE(ColorFondo(nombre), kFoco);
+  QCOMPARE(nombre->selectedText(), u"Harina"_s);
+  QTest::keyClicks(nombre, u"Agua"_s);
+  QCOMPARE(nombre->text(), u"Agua"_s);
+  QLineEdit* coste = TocarCampo(*f, u"txt_coste"_s);
+  QCOMPARE(ColorFondo(coste), kFoco);
+  QCOMPARE(ColorFondo(nombre), kCampo);
+  // A rejected key still clears a whole selection: the key was meant to replace it.
+  QTest::keyClicks(coste, u"a"_s);
+  QCOMPARE(coste->text(), QString());
+  QTest::keyClicks(coste, u"1.5,2"_s);
+  QCOMPARE(coste->text(), u"1,52"_s);
+  QTest::keyClick(coste, Qt::Key_Backspace);
+  QCOMPARE(coste->text(), u"1,5"_s);
+  QLineEdit* minimo = TocarCampo(*f, u"txt_stock_minimo"_s);
+  QCOMPARE(minimo->selectedText(), u"1"_s);
+  QTest::keyClicks(minimo, u"2,5a."_s);
+  QCOMPARE(minimo->text(), u"25"_s);
+
+  auto* margen = f->control<QLineEdit>(u"txt_margen"_s);
+  auto* precio = f->control<QLineEdit>(u"txt_precio"_s);
+  // The margin with no cost: a notice for each key, and the key goes in.
+  f->control<QLineEdit>(u"txt_coste"_s)->clear();
+  TocarCampo(*f, u"txt_margen"_s);
+  QTest::keyClicks(margen, u"7x"_s);
+  const QString aviso = u"Debe Indicar Antes una Cantidad para el coste y para el iva"_s;
+  QCOMPARE(f->dialogos().mensajes(), (QStringList{aviso, aviso}));
+  QCOMPARE(f->dialogos().llamadas().first().titulo, QString());
+  QCOMPARE(margen->text(), u"7x"_s);
+  // The cost marks the tax, the tax the price.
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"10"_s);
+  QCOMPARE(ColorFondo(f->control<QWidget>(u"txt_iva"_s)), kFoco);
+  QCOMPARE(ColorFondo(precio), kCampo);
+  QTest::keyClicks(TocarCampo(*f, u"txt_iva"_s), u"10"_s);
+  QCOMPARE(ColorFondo(precio), kFoco);
+  // The margin gives the price; the price's change works the margin out again, tax on the
+  // margin included.
+  margen->setText(u"5"_s);
+  QTest::keyClick(margen, Qt::Key_Return);
+  QCOMPARE(precio->text(), u"16,50"_s);
+  QCOMPARE(margen->text(), u"5,50"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_coste"_s), u"1000"_s);
+  margen->setText(u"122,5"_s);
+  QTest::keyClick(margen, Qt::Key_Enter);
+  QCOMPARE(precio->text(), u"1.234,75"_s);
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  margen->setText(u"5"_s);
+  f->control<QLineEdit>(u"txt_coste"_s)->setText(u"10"_s);
+  QTest::keyClick(margen, Qt::Key_Return);
+  QCOMPARE(precio->text(), u"16.50"_s);
+  QCOMPARE(margen->text(), u"5.50"_s);
+  QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+  // A price typed gives the margin; with no cost the cost becomes 0 and the margin stays.
+  f->control<QLineEdit>(u"txt_coste"_s)->setText(u"100"_s);
+  QTest::keyClicks(TocarCampo(*f, u"txt_precio"_s), u"121"_s);
+  QCOMPARE(margen->text(), u"11,00"_s);
+  f->control<QLineEdit>(u"txt_coste"_s)->clear();
+  QTest::keyClicks(TocarCampo(*f, u"txt_precio"_s), u"5"_s);
+  QCOMPARE(Texto(*f, u"txt_coste"_s), u"0"_s);
+  QCOMPARE(margen->text(), u"11,00"_s);
+  // A new product's price brings what follows it.
+  Pulsar(*f, u"cmd_cancelar"_s);
+  Pulsar(*f, u"cmd_nuevo"_s);
+  QVERIFY(Visible(*f, u"frOcultarGen"_s) && !Visible(*f, u"ch_Mostrar"_s));
+  precio->setText(u"3"_s);
+  QVERIFY(!Visible(*f, u"frOcultarGen"_s));
+  Exigir(*f, &Visible, u"ch_Mostrar lblPreparado optCocina optBarra"_s, true);
+}
+
+void TestFormularioJornada::elElaboradoMuestraSusCamposPasoAPaso() {
+  std::unique_ptr<FormularioPrueba> f(
+      Abrir({Producto(u"2"_s, u"Tortilla"_s), Stock(u"2"_s, u"0"_s, u"0"_s),
+             u"insert into productoElaborado_producto values ('2', '1', 3)"_s}));
+  Pulsar(*f, u"cmd_salir"_s);
+  Pulsar(*f, u"cmd_ProdElaborado"_s);
+  Pulsar(*f, u"cmd_ModificarProdEla"_s);
+  Exigir(*f, &Visible, u"txt_ImpuestoElaborado txt_PrecioElaborado"_s, true);
+  QLineEdit* coste = TocarCampo(*f, u"txt_costeElaborado"_s);
+  QTest::keyClick(coste, Qt::Key_Backspace);
+  Exigir(*f, &Visible, u"txt_ImpuestoElaborado lbl_ImpuestoElaborado"_s, false);
+  QTest::keyClicks(coste, u"2"_s);
+  Exigir(*f, &Visible, u"txt_ImpuestoElaborado lbl_ImpuestoElaborado"_s, true);
+  QLineEdit* iva = TocarCampo(*f, u"txt_ImpuestoElaborado"_s);
+  QTest::keyClick(iva, Qt::Key_Backspace);
+  Exigir(*f, &Visible, u"txt_PrecioElaborado lbl_PrecioElaborado"_s, false);
+  // The tax of an elaborated product takes any key, as it always has.
+  Teclear(*f, u"4A"_s);
+  QCOMPARE(iva->text(), u"4A"_s);
+  QVERIFY(Visible(*f, u"txt_PrecioElaborado"_s));
+}
+
+PRODUCTOS_TEST_MAIN_PANTALLA(TestFormularioJornada, Pantalla().width(), Pantalla().height())
 #include "test_formulario_jornada.moc"
