@@ -618,6 +618,8 @@ void TestAlta::proveedoresDeUnProducto() {
   QCOMPARE(listas.asignados, (QStringList{LineaProveedor(u"Mahou"_s, u"1"_s),
                                           LineaProveedor(u"Pescanova"_s, u"2"_s)}));
   QCOMPARE(listas.libres, QStringList{LineaProveedor(u"Mahou"_s, u"1"_s)});
+  QVERIFY(bProveedorAsignado(listas.asignados, u"2"_s) &&
+          !bProveedorAsignado(listas.libres, u"2"_s));
   // The table refuses the second supplier half-way through the save: the old links stay.
   prueba.ejecutar({u"alter table productoproveedor rename to viejos"_s,
                    u"create table productoproveedor (producto text, proveedor text check "
