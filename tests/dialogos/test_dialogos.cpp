@@ -1,10 +1,5 @@
-#include <QAbstractButton>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPointer>
-#include <QTableWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "buscar.h"
 #include "formulario_prueba.h"
@@ -53,7 +48,7 @@ void Clic(QWidget* dialogo, const QString& nombre, int boton = 0) {
                     Qt::LeftButton);
 }
 
-// The codes in the grid, and the links written, "parent>child" in order.
+// The grid's codes; the links written as "parent>child".
 QString Grid(QWidget* dialogo) {
   auto* grid = dialogo->findChild<QTableWidget*>(u"gridProd"_s);
   QStringList r;
@@ -91,27 +86,25 @@ class TestDialogos : public QObject {
     QTest::addColumn<CriteriosBusqueda>("criterios");
     QTest::addColumn<QString>("condicion");  // after "... where codigo <> null and borrar = 0"
     QTest::addColumn<QString>("codigos");    // found on each engine
-    const QString simples =
-        u" and codigo not in (select productopadre from productoelaborado_producto)"_s;
-    QTest::newRow("todo") << u"Pr"_s << CriteriosBusqueda{} << simples << u"1 2 5"_s;
+    const QString elaborado = u"in (select productopadre from productoelaborado_producto)"_s;
+    const auto filtro = [](const QString& p, const QString& f) {
+      return u" and Proveedor in (select codigo from proveedores where nombre like '%1%') and "
+             "seccion in (select codigo from seccion where nombre like '%2%')"_s.arg(p, f);
+    };
+    QTest::newRow("todo") << u"Pr"_s << CriteriosBusqueda{} << u" and codigo not "_s + elaborado
+                          << u"1 2 5"_s;
     QTest::newRow("proveedor y familia")
         << u"Pr"_s << CriteriosBusqueda{.proveedor = u"Caf"_s, .familia = u"beb"_s}
-        << u" and Proveedor in (select codigo from proveedores where nombre like 'Caf%') and "
-           "seccion in (select codigo from seccion where nombre like 'beb%')"_s +
-               simples
-        << u"1"_s;
+        << filtro(u"Caf"_s, u"beb"_s) + u" and codigo not "_s + elaborado << u"1"_s;
     QTest::newRow("sin familia") << u"Pr"_s << CriteriosBusqueda{.sinAsignar = true}
-                                 << u" and seccion = '-1'"_s + simples << u"2"_s;
+                                 << u" and seccion = '-1' and codigo not "_s + elaborado << u"2"_s;
     QTest::newRow("todo, elaborados")
         << u"PrEl"_s << CriteriosBusqueda{u"x"_s, u"y"_s, u"CA"_s, true}
-        << u" and Nombre like 'CA%' and Proveedor in (select codigo from proveedores where nombre "
-           "like 'x%') and seccion in (select codigo from seccion where nombre like 'y%') and "
-           "seccion = '-1' and codigo in (select productopadre from productoelaborado_producto)"_s
+        << u" and Nombre like 'CA%'"_s + filtro(u"x"_s, u"y"_s) +
+               u" and seccion = '-1' and codigo "_s + elaborado
         << QString();
     QTest::newRow("elaborados") << u"PrEl"_s << CriteriosBusqueda{.nombre = u"CA"_s}
-                                << u" and Nombre like 'CA%' and codigo in (select productopadre "
-                                   "from productoelaborado_producto)"_s
-                                << u"3"_s;
+                                << u" and Nombre like 'CA%' and codigo "_s + elaborado << u"3"_s;
   }
   void encuentra() {
     QFETCH(QString, modo);

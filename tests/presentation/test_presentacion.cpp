@@ -1,15 +1,5 @@
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDate>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTableWidget>
-#include <QVBoxLayout>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "archivo_ini.h"
 #include "color_vb.h"
@@ -30,8 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A form as the suite's are, at 1024×768, frames nested three deep. Line: kind (Frame, Label,
-// Entry, Combo, checK, list (W), Table, Button), name, parent, x y w h, caption.
+// 1024×768, frames 3 deep: kind (F L E C K W T B), name, parent, x y w h, caption.
 std::unique_ptr<QWidget> FormularioPrueba() {
   auto f = std::make_unique<QWidget>();
   f->setObjectName(u"frmPrueba"_s);
@@ -100,8 +89,7 @@ QString Traducciones(const QString& filas) {
   return u"insert into traducciones (caption, traduccion) values "_s + v.join(u", "_s);
 }
 
-// Panel entries written "descNumerica|colorFondo|imagen|nombre|colorMarca|codigo;...", where "@"
-// in a picture stands for the photo folder and the separator.
+// "descNumerica|colorFondo|imagen|nombre|colorMarca|codigo;...", "@" the photo folder.
 TablaPanel Entradas(const QString& texto, const QString& fotos = {}) {
   TablaPanel t;
   for (const QString& entrada : texto.split(u';', Qt::SkipEmptyParts)) {
@@ -120,8 +108,7 @@ TablaPanel Tabla(int cuantas) {
 
 }  // namespace
 
-// What every form goes through as it loads (translated, gathered, scaled, painted, restricted),
-// the regional settings, and the touch panel of families and products.
+// Form loading (translate, gather, scale, paint, restrict), amounts, the touch panel.
 class TestPresentacion : public QObject {
   Q_OBJECT
 
@@ -158,7 +145,6 @@ class TestPresentacion : public QObject {
          "ColorPredefinido, Tipo_Letra, Aumento_X, Aumento_Y) values ('CAJA1', 3, "_s +
          idColor + u", 0, null, 100, 50)"_s});
   }
-  // Shows the form and leaves its picture in the temporary folder, to be looked at.
   void capturar(QWidget* w, const QString& archivo) {
     w->show();
     QVERIFY(QTest::qWaitForWindowExposed(w));
@@ -177,16 +163,13 @@ class TestPresentacion : public QObject {
   void pulsar(const QString& nombre) {
     QTest::mouseClick(panel->findChild<QAbstractButton*>(nombre), Qt::LeftButton);
   }
-  // The page indicator and the captions of the buttons on show.
   QString pagina() {
     QStringList r;
-    for (int n = 1; boton(n); ++n) {
-      if (boton(n)->isVisible())
-        r.append(boton(n)->toolTip());
-    }
+    for (int n = 1; boton(n); ++n)
+      r << (boton(n)->isVisible() ? boton(n)->toolTip() : QString());
+    r.removeAll(QString());
     return panel->findChild<QLabel*>(u"indicador_pagina"_s)->text() + u": "_s + r.join(u", "_s);
   }
-  // A button's colour at a point, given as fractions of its size.
   QColor color(int n, double x, double y) {
     const QImage imagen = boton(n)->grab().toImage();
     return imagen.pixelColor(int(imagen.width() * x), int(imagen.height() * y));
@@ -304,10 +287,9 @@ class TestPresentacion : public QObject {
       vistas.append(u"%1,%2 %3x%4"_s.arg(g.x()).arg(g.y()).arg(g.width()).arg(g.height()));
     }
     auto* grid = qobject_cast<QTableWidget*>(hijo(u"grdIngredientes"_s));
-    const QSize minimo = suelto->minimumSize();
     vistas
         << u"%1 %2 %3"_s.arg(grid->columnWidth(0)).arg(grid->columnWidth(1)).arg(grid->rowHeight(0))
-        << u"%1x%2"_s.arg(minimo.width()).arg(minimo.height())
+        << u"%1x%2"_s.arg(suelto->minimumWidth()).arg(suelto->minimumHeight())
         << QString::number(hijo(u"lbl_nombre"_s)->font().pointSizeF());
     QCOMPARE(vistas.join(u"; "_s), medidas);
     // The layout places its controls: their type is scaled, their sizes are the layout's.
@@ -397,8 +379,7 @@ class TestPresentacion : public QObject {
   }
 
   void lasRestriccionesApaganBotonesYEsconden_data() {
-    // "employee|greyed out|error": names ignore case; other forms and employees stay out;
-    // controls the form lacks are named, and the rest are applied all the same.
+    // "employee|greyed out|error": case-blind; other forms stay out; missing controls named.
     QTest::addColumn<QString>("caso");
     for (const char* caso : {"12|cmd_modificar cmd_eliminar|", "13|cmd_nuevo|", "7||",
                              "5|cmd_nuevo cmd_modificar|El formulario frmPrueba no tiene el "
@@ -424,10 +405,9 @@ class TestPresentacion : public QObject {
       QCOMPARE(e.descripcion(), error);
     }
     QStringList vistos;  // greyed out, never hidden
-    for (QPushButton* b : f->findChildren<QPushButton*>()) {
-      if (!b->isEnabled() && b->isVisible())
-        vistos.append(b->objectName());
-    }
+    for (QPushButton* b : f->findChildren<QPushButton*>())
+      vistos << (!b->isEnabled() && b->isVisible() ? b->objectName() : QString());
+    vistos.removeAll(QString());
     QCOMPARE(vistos.join(u' '), apagados);
     QCOMPARE(hijo(u"lbl_eliminar"_s)->isVisible(), !apagados.contains(u"cmd_eliminar"_s));
   }
