@@ -1,10 +1,5 @@
-#include <QAbstractButton>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPointer>
-#include <QTableWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "buscar.h"
 #include "formulario_prueba.h"
@@ -15,32 +10,34 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// Products "code|name|supplier|family|deleted", then their stock and the dish made of 1.
 QStringList CatalogoBuscar() {
-  return {
+  QStringList r{
       u"insert into proveedores (codigo, nombre, borrar) values ('P2', 'Cafés Norte', 0)"_s,
-      u"insert into seccion (codigo, nombre, borrar, menu) values ('F1', 'Bebidas', 0, 0)"_s,
-      Producto(u"1"_s, u"Café solo"_s, {{u"proveedor"_s, u"'P2'"_s}, {u"seccion"_s, u"'F1'"_s}}),
-      Producto(u"2"_s, u"Café con leche"_s, {{u"proveedor"_s, u"'P2'"_s}}),
-      Stock(u"1"_s, u"4"_s, u"1"_s),
-      Stock(u"2"_s, u"4"_s, u"1"_s),
-      Producto(u"3"_s, u"Cazuela"_s),
-      u"insert into productoelaborado_producto (productopadre, productohijo, cantidad) "
-      "values ('3', '1', 1)"_s,
-      Producto(u"4"_s, u"Caña"_s, {{u"borrar"_s, u"-1"_s}}),
-      Producto(u"5"_s, u"Vino tinto"_s, {{u"seccion"_s, u"'F1'"_s}})};
+      u"insert into seccion (codigo, nombre, borrar, menu) values ('F1', 'Bebidas', 0, 0)"_s};
+  for (const QString& p :
+       u"1|Café solo|'P2'|'F1'|0;2|Café con leche|'P2'|'-1'|0;3|Cazuela|null|"
+       "'-1'|0;4|Caña|null|'-1'|-1;5|Vino tinto|null|'F1'|0"_s.split(u';')) {
+    const QStringList c = p.split(u'|');
+    r.append(
+        Producto(c[0], c[1], {{u"proveedor"_s, c[2]}, {u"seccion"_s, c[3]}, {u"borrar"_s, c[4]}}));
+  }
+  return r << u"insert into stock (producto, stock, stockminimo) values (1, 4, 1), (2, 4, 1)"_s
+           << u"insert into productoelaborado_producto (productopadre, productohijo, cantidad) "
+              "values ('3', '1', 1)"_s;
 }
 
+// Products 1 to 5 and "6x", whose unquoted code breaks the links' insert; 1 has 5, 9 has 1.
 QStringList CatalogoSubproductos() {
-  QStringList filas = {
-      u"insert into seccion (codigo, nombre, borrar, menu, orden) values ('F1', 'Cafés', 0, 0, "
-      "1), ('F2', 'Vacía', 0, 0, 2)"_s,
+  QStringList r{
+      u"insert into seccion (codigo, nombre, borrar, menu, orden) values ('F1', 'Cafés', "
+      "0, 0, 1), ('F2', 'Vacía', 0, 0, 2)"_s,
       u"insert into subproductos (CodProductoPadre, CodProductoHijo) values ('1', '5'), "
       "('9', '1')"_s};
-  for (int i = 1; i <= 6; ++i) {  // the last code, unquoted in the links' insert, breaks it
-    filas.append(Producto(i < 6 ? QString::number(i) : u"6x"_s, u"P%1"_s.arg(i),
-                          {{u"seccion"_s, u"'F1'"_s}, {u"orden"_s, QString::number(i)}}));
-  }
-  return filas;
+  for (int i = 1; i <= 6; ++i)
+    r << Producto(i < 6 ? QString::number(i) : u"6x"_s, u"P%1"_s.arg(i),
+                  {{u"seccion"_s, u"'F1'"_s}, {u"orden"_s, QString::number(i)}});
+  return r;
 }
 
 // Clicks a dialog's button; with a panel, the panel's nth button.
@@ -51,13 +48,13 @@ void Clic(QWidget* dialogo, const QString& nombre, int boton = 0) {
                     Qt::LeftButton);
 }
 
-// The codes in the grid, and the links written, "parent>child" in order.
+// The grid's codes; the links written as "parent>child".
 QString Grid(QWidget* dialogo) {
   auto* grid = dialogo->findChild<QTableWidget*>(u"gridProd"_s);
-  QStringList codigos;
+  QStringList r;
   for (int fila = 0; fila < grid->rowCount(); ++fila)
-    codigos.append(grid->item(fila, 1)->text());
-  return codigos.join(u' ');
+    r << grid->item(fila, 1)->text();
+  return r.join(u' ');
 }
 QString Enlaces(InstalacionPrueba& inst) {
   QStringList r;
@@ -69,9 +66,7 @@ QString Enlaces(InstalacionPrueba& inst) {
 
 }  // namespace
 
-// Finding a product among many, and linking the products the till offers with a parent: the
-// query the boxes make, what it finds and the links written on each engine, and the dialogs
-// handing back to the products form.
+// The search's query, results and dialog; sub-product links written on each engine.
 class TestDialogos : public QObject {
   Q_OBJECT
   std::unique_ptr<PostgresPrueba> pg_;
@@ -91,28 +86,25 @@ class TestDialogos : public QObject {
     QTest::addColumn<CriteriosBusqueda>("criterios");
     QTest::addColumn<QString>("condicion");  // after "... where codigo <> null and borrar = 0"
     QTest::addColumn<QString>("codigos");    // found on each engine
-    const QString simples =
-        u" and codigo not in (select productopadre from "
-        "productoelaborado_producto)"_s;
-    QTest::newRow("todo") << u"Pr"_s << CriteriosBusqueda{} << simples << u"1 2 5"_s;
+    const QString elaborado = u"in (select productopadre from productoelaborado_producto)"_s;
+    const auto filtro = [](const QString& p, const QString& f) {
+      return u" and Proveedor in (select codigo from proveedores where nombre like '%1%') and "
+             "seccion in (select codigo from seccion where nombre like '%2%')"_s.arg(p, f);
+    };
+    QTest::newRow("todo") << u"Pr"_s << CriteriosBusqueda{} << u" and codigo not "_s + elaborado
+                          << u"1 2 5"_s;
     QTest::newRow("proveedor y familia")
         << u"Pr"_s << CriteriosBusqueda{.proveedor = u"Caf"_s, .familia = u"beb"_s}
-        << u" and Proveedor in (select codigo from proveedores where nombre like 'Caf%') and "
-           "seccion in (select codigo from seccion where nombre like 'beb%')"_s +
-               simples
-        << u"1"_s;
+        << filtro(u"Caf"_s, u"beb"_s) + u" and codigo not "_s + elaborado << u"1"_s;
     QTest::newRow("sin familia") << u"Pr"_s << CriteriosBusqueda{.sinAsignar = true}
-                                 << u" and seccion = '-1'"_s + simples << u"2"_s;
+                                 << u" and seccion = '-1' and codigo not "_s + elaborado << u"2"_s;
     QTest::newRow("todo, elaborados")
         << u"PrEl"_s << CriteriosBusqueda{u"x"_s, u"y"_s, u"CA"_s, true}
-        << u" and Nombre like 'CA%' and Proveedor in (select codigo from proveedores where nombre "
-           "like 'x%') and seccion in (select codigo from seccion where nombre like 'y%') and "
-           "seccion = '-1' and codigo in (select productopadre from productoelaborado_producto)"_s
+        << u" and Nombre like 'CA%'"_s + filtro(u"x"_s, u"y"_s) +
+               u" and seccion = '-1' and codigo "_s + elaborado
         << QString();
     QTest::newRow("elaborados") << u"PrEl"_s << CriteriosBusqueda{.nombre = u"CA"_s}
-                                << u" and Nombre like 'CA%' and codigo in (select productopadre "
-                                   "from productoelaborado_producto)"_s
-                                << u"3"_s;
+                                << u" and Nombre like 'CA%' and codigo "_s + elaborado << u"3"_s;
   }
   void encuentra() {
     QFETCH(QString, modo);

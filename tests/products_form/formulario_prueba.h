@@ -18,8 +18,7 @@
 #include "instalacion_prueba.h"
 #include "paneles.h"
 
-// A products form on a throwaway installation (Spanish, "RESTAURANTE", two decimals, employee 5,
-// captions gathered already) with the rows a test adds, written before the form loads.
+// A products form on a throwaway installation with the rows a test adds before it loads.
 class FormularioPrueba {
  public:
   explicit FormularioPrueba(const QStringList& filas = {});
@@ -79,9 +78,7 @@ inline QLineEdit* TocarCampo(FormularioPrueba& f, const QString& nombre) {
 
 QStringList FilasDeLaInstalacion();
 
-// Inserts: a live product with the columns given (SQL literals) over the defaults (cost 1, price
-// 2, tax 10, no family, for sale at the bar, in units); a stock row; a printer; a live supplier;
-// a live family not shown on the till.
+// Rows to insert; a product over defaults: cost 1, price 2, tax 10, no family, bar, units.
 QString Producto(const QString& codigo, const QString& nombre,
                  const QList<QPair<QString, QString>>& columnas = {});
 QString Stock(const QString& codigo, const QString& stock, const QString& minimo);
@@ -114,8 +111,7 @@ inline QString Hoy() {
   return QDate::currentDate().toString(Qt::ISODate);
 }
 
-// Checks a row written column by column: a text must be a text, numbers compare as numbers
-// (each engine hands them back in types of its own), a null must be null.
+// Checks a row column by column: texts as texts, numbers as numbers, nulls as nulls.
 template <typename... Valores>
 void CompararFila(const QVariantList& fila, const Valores&... valores) {
   const QVariantList esperado{QVariant(valores)...};

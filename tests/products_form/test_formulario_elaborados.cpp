@@ -16,8 +16,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// The recipe page: elaborated products made of components, created, changed and deleted by
-// touch and by keyboard, on SQLite and PostgreSQL; and a simple product's save on PostgreSQL.
+// The recipe page by touch and by keyboard on SQLite and PostgreSQL; a simple save on PostgreSQL.
 
 namespace {
 
@@ -35,8 +34,7 @@ QStringList ConStock(const QString& codigo, const QString& nombre, const QString
           Stock(codigo, u"3"_s, u"1"_s)};
 }
 
-// A bar's catalogue: a tapa elaborated from two components, what a sangría is made of, and a
-// deleted component.
+// A bar's catalogue: a tapa of two components, a sangría's components, a deleted component.
 QStringList Catalogo() {
   return ConStock(u"1"_s, u"Vino tinto de la casa"_s, u"Litros"_s) +
          ConStock(u"2"_s, u"Limón"_s, u"Unidades"_s, {{u"tipoprod"_s, u"0"_s}}) +
@@ -315,8 +313,7 @@ void TestFormularioElaborados::unaRecetaQueNoSePuedeGrabarDejaLasFilasComoEstaba
   QCOMPARE(Lineas(f, u"lb_ProductosSel"_s).size(), componente.isEmpty() ? 2 : 3);
 }
 
-// What a simple product's save writes on PostgreSQL must be what the other programs read, column
-// by column.
+// A simple product's save on PostgreSQL, checked column by column.
 void TestFormularioElaborados::unProductoSimpleSeGrabaEnPostgreSQL() {
   InstalacionPrueba inst;
   EnPostgres(inst);

@@ -12,8 +12,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// A manager's day on the form, by keyboard and by touch, on the screen PRODUCTOS_PANTALLA
-// (1024x768 when unset): the keys, the on-screen keyboard, the amounts, the looks.
+// A manager's day by keyboard and touch on the screen PRODUCTOS_PANTALLA (1024x768 when unset).
 namespace {
 
 // The scheme's focus colour (yellow) and entry colour (white).
@@ -52,8 +51,7 @@ QRect EnVentana(const QWidget* w) {
   return QRect(w->mapTo(w->window(), QPoint()), w->size());
 }
 
-// The simple products' screen on a product with its supplier and picture, shown on the till
-// unless `enCaja` says otherwise; eight families fill two pages of the panel.
+// The simple products' screen on a product with supplier and picture; families fill two pages.
 FormularioPrueba* Abrir(const QStringList& filas = {}, const QString& enCaja = u"0"_s) {
   QStringList todas = filas;
   todas << Proveedor(u"P1"_s, u"Huerta"_s)
@@ -90,7 +88,6 @@ class TestFormularioJornada : public QObject {
   void cadaPantallaEnteraYLegible();
   void elTecladoEnPantalla();
   void losImportes();
-  void elElaboradoMuestraSusCamposPasoAPaso();
 };
 
 void TestFormularioJornada::unProductoSeCreaSoloConElTeclado() {
@@ -313,28 +310,6 @@ void TestFormularioJornada::losImportes() {
   precio->setText(u"3"_s);
   QVERIFY(!Visible(*f, u"frOcultarGen"_s));
   Exigir(*f, &Visible, u"ch_Mostrar lblPreparado optCocina optBarra"_s, true);
-}
-
-void TestFormularioJornada::elElaboradoMuestraSusCamposPasoAPaso() {
-  std::unique_ptr<FormularioPrueba> f(
-      Abrir({Producto(u"2"_s, u"Tortilla"_s), Stock(u"2"_s, u"0"_s, u"0"_s),
-             u"insert into productoElaborado_producto values ('2', '1', 3)"_s}));
-  Pulsar(*f, u"cmd_salir"_s);
-  Pulsar(*f, u"cmd_ProdElaborado"_s);
-  Pulsar(*f, u"cmd_ModificarProdEla"_s);
-  Exigir(*f, &Visible, u"txt_ImpuestoElaborado txt_PrecioElaborado"_s, true);
-  QLineEdit* coste = TocarCampo(*f, u"txt_costeElaborado"_s);
-  QTest::keyClick(coste, Qt::Key_Backspace);
-  Exigir(*f, &Visible, u"txt_ImpuestoElaborado lbl_ImpuestoElaborado"_s, false);
-  QTest::keyClicks(coste, u"2"_s);
-  Exigir(*f, &Visible, u"txt_ImpuestoElaborado lbl_ImpuestoElaborado"_s, true);
-  QLineEdit* iva = TocarCampo(*f, u"txt_ImpuestoElaborado"_s);
-  QTest::keyClick(iva, Qt::Key_Backspace);
-  Exigir(*f, &Visible, u"txt_PrecioElaborado lbl_PrecioElaborado"_s, false);
-  // The tax of an elaborated product takes any key, as it always has.
-  Teclear(*f, u"4A"_s);
-  QCOMPARE(iva->text(), u"4A"_s);
-  QVERIFY(Visible(*f, u"txt_PrecioElaborado"_s));
 }
 
 PRODUCTOS_TEST_MAIN_PANTALLA(TestFormularioJornada, Pantalla().width(), Pantalla().height())
