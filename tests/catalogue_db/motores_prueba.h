@@ -10,8 +10,7 @@
 #include "instalacion_prueba.h"
 #include "postgres_prueba.h"
 
-// The drivers "sqlite", "odbc" (SQLite ODBC, private odbc.ini) and "postgresql" (test server).
-// Build one per test program, in initTestCase, before any ODBC call.
+// Drivers "sqlite", "odbc" (SQLite ODBC), "postgresql"; one per program, before any ODBC call.
 class MotoresPrueba {
  public:
   MotoresPrueba();
@@ -19,15 +18,13 @@ class MotoresPrueba {
   // Adds one row per driver ("motor", QString) to a data-driven test.
   static void agregarFilas();
 
-  // Opens `conexion` on a new, empty database holding the given tables. The result is empty
-  // on success, else why it failed.
+  // Opens `conexion` on a new database with the given tables; empty, else why it failed.
   QString abrirNueva(Conexion& conexion, const QString& motor,
                      const QList<Tabla>& tablas = TablasPrincipales());
   // The file behind the "velandria" ODBC data source.
   QString archivoOdbc() const { return dir_.filePath(QStringLiteral("velandria_odbc.db")); }
   PostgresPrueba* postgres();
-  // Opens the data source "lumbraCopas" of the private odbc.ini, a new database "copas" of the
-  // test server reached through psqlODBC, by the suite's connection string for that program type.
+  // Opens "lumbraCopas" (odbc.ini): a new server database "copas" through psqlODBC.
   QString abrirPorPsqlOdbc(Conexion& conexion);
 
  private:
@@ -36,8 +33,7 @@ class MotoresPrueba {
   int bases_ = 0;
 };
 
-// One statement of the program with sample values spliced in, and the text each engine must
-// receive after the dialect rewrites (data/dialect-vectors.json).
+// A program statement with sample values, and the text each engine receives after rewriting.
 struct VectorSentencia {
   QString id, texto, sqlite, sqliteOdbc, postgres;
 };

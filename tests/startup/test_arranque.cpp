@@ -101,19 +101,14 @@ void TestArranque::mainLeeLaSesion() {
            (QList<QVariantList>{{u"opcion_color_panel_familias"_s, -1}}));
   QVERIFY(p.log().isEmpty());
 
-  // No row of options nor of the terminal: not even the default language; the fixed option read.
+  // No row of options: not even the default language, no decimals; a stored fixed option read.
   InstalacionPrueba q;
   TipoPrograma(q, u"RESTAURANTE"_s);
-  q.ejecutar(
-      {u"insert into relaciones_fijas (indice, daton) values "
-       "('opcion_color_panel_familias', 0)"_s});
+  q.ejecutar({u"insert into relaciones_fijas values ('opcion_color_panel_familias', 0)"_s});
   Main(q.entorno(), [] {});
   const Sesion& t = q.entorno().sesion;
-  QCOMPARE(t.idioma, QString());
-  QVERIFY(!t.ColorPanelFamilias);
-  QCOMPARE(
-      QList<int>({t.numDecimales, t.modocaja, t.EmpleadoActual, t.EmpleadoTerminal, t.id_color}),
-      QList<int>({0, 1, 0, 0, 0}));
+  QCOMPARE(std::tuple(t.idioma, t.ColorPanelFamilias, t.numDecimales),
+           std::tuple(QString(), false, qint16(0)));
 }
 
 // "fastfood" opens nothing and goes on; FASTFOOD opens its source; COPAS on another file ends.

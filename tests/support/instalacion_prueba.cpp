@@ -44,9 +44,7 @@ bool InstalacionPrueba::usarPostgres(PostgresPrueba& servidor, const QString& ba
   const OrigenDatos origen = servidor.crearBaseDatos(base);
   if (origen.baseDatos.isEmpty())
     return false;
-  entorno_->instalacion.origenes.mapear(u"velandria"_s, origen);
-  entorno_->ConexionBD = std::make_unique<Conexion>();
-  entorno_->ConexionBD->abrir(kCadenaVelandria, entorno_->instalacion.origenes);
+  UsarPostgres(*this, origen);
   CrearEsquema(conexion(), TablasPrincipales());
   QFile ini(QDir(dir_.path()).filePath(u"productos.ini"_s));
   return ini.open(QIODevice::Append) &&

@@ -13,8 +13,7 @@ class PostgresPrueba;
 // The rows of a query, each as its values in column order.
 QList<QVariantList> FilasDe(Conexion& conexion, const QString& consulta);
 
-// A temporary program folder: velandria.db and informes.db mapped by productos.ini, scripted
-// dialogs, shown errors recorded; the shared connection open on velandria.db.
+// A program folder: velandria.db and informes.db mapped by productos.ini, scripted dialogs.
 class InstalacionPrueba {
  public:
   InstalacionPrueba();
@@ -26,15 +25,12 @@ class InstalacionPrueba {
   QString rutaPrincipal() const;
   QString rutaInformes() const;
 
-  // Maps "velandria" (here and in productos.ini) to a new server database; false: see error().
+  // UsarPostgres on a new server database, also mapped in productos.ini; false: see error().
   bool usarPostgres(PostgresPrueba& servidor, const QString& base);
 
-  // Runs statements on the main database.
   void ejecutar(const QStringList& sentencias);
-  // Runs statements on the reports database.
   void ejecutarEnInformes(const QStringList& sentencias);
   QList<QVariantList> filas(const QString& consulta) { return FilasDe(conexion(), consulta); }
-  // The error log's bytes.
   QByteArray log() const;
   // The entries shown on the error form, as (context, description).
   const QList<QPair<QString, QString>>& erroresMostrados() const { return errores_; }

@@ -7,8 +7,7 @@
 
 class InstalacionPrueba;
 
-// A throwaway server (initdb in a temporary folder, socket only, password login for "tpv"; as
-// postgres when run as root). Binaries: PRODUCTOS_PG_BIN, else the newest installed.
+// A throwaway socket-only server, login "tpv"; binaries: PRODUCTOS_PG_BIN, else the newest.
 class PostgresPrueba {
  public:
   PostgresPrueba();
