@@ -27,7 +27,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -174,8 +174,9 @@ class Banco {
     QTest::keyClicks(campo, texto);
   }
   void tocarLinea(const QString& lista, int fila) {
-    auto* l = control<QListWidget>(lista);
-    QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualItemRect(l->item(fila)).center());
+    auto* l = control<QListView>(lista);
+    QTest::mouseClick(l->viewport(), Qt::LeftButton, {},
+                      l->visualRect(l->model()->index(fila, 0)).center());
   }
 
   // Times an action and the floor of the statements it ran.
@@ -319,7 +320,7 @@ void Correr(const QString& cache, int n, std::vector<Fila>& filas, std::vector<l
   }
   for (int i = 0; i < reps; ++i) {
     b.medir(m(9), [&] { b.pulsar(u"cmd_ListaProd"_s); });
-    if (b.control<QListWidget>(u"lstProductos"_s)->count() < n / 2)
+    if (b.control<QListView>(u"lstProductos"_s)->model()->rowCount() < n / 2)
       throw std::runtime_error("la lista no se llenó");
     b.pulsar(u"cmd_ListaProd"_s);
   }

@@ -2,27 +2,22 @@
 
 #include "entorno.h"
 #include "error_bd.h"
+#include "lineas_productos.h"
 #include "recordset.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-std::optional<QStringList> LeerLineas(Entorno& entorno, const QString& sentencia,
-                                      const QString& contexto) {
+std::optional<LineasProductos> LeerLineas(Entorno& entorno, const QString& sentencia,
+                                          const QString& contexto) {
   try {
-    Recordset rs(*entorno.ConexionBD, sentencia);
-    if (rs.recordCount() < 1) {
-      rs.close();
+    LineasProductos lineas = LineasDeProductos(entorno, sentencia);
+    if (lineas.isEmpty()) {
       entorno.dialogos->mensaje(kMensajeSinProductos, kTituloSinProductos,
                                 ServicioDialogos::Icono::Informacion);
       return std::nullopt;
     }
-    QStringList lineas;
-    for (rs.moveFirst(); !rs.eof(); rs.moveNext()) {
-      lineas.append(LineaLista(rs.field(u"nombre"_s).toString(), rs.field(u"codigo"_s).toString()));
-    }
-    rs.close();
     return lineas;
   } catch (const ErrorBD& e) {
     entorno.RegistrarError(contexto, e.descripcion());
@@ -32,6 +27,17 @@ std::optional<QStringList> LeerLineas(Entorno& entorno, const QString& sentencia
 
 }  // namespace
 
+LineasProductos LineasDeProductos(Entorno& entorno, const QString& sentencia) {
+  Recordset rs(*entorno.ConexionBD, sentencia);
+  LineasProductos lineas;
+  while (!rs.eof()) {
+    lineas.anadir(rs.field(u"nombre"_s).toString(), rs.field(u"codigo"_s).toString());
+    rs.moveNext();
+  }
+  rs.close();
+  return lineas;
+}
+
 QString LineaLista(const QString& nombre, const QString& codigo, int blancos) {
   return nombre + QString(blancos, u' ') + codigo;
 }
@@ -40,12 +46,12 @@ QString CodigoDeLineaLista(const QString& linea) {
   return linea.right(kLargoCodigoLista).trimmed();
 }
 
-std::optional<QStringList> LeerListaProductos(Entorno& entorno) {
+std::optional<LineasProductos> LeerListaProductos(Entorno& entorno) {
   return LeerLineas(entorno, u"Select * from productos where borrar = 0 order by nombre"_s,
                     kContextoListaProductos);
 }
 
-std::optional<QStringList> LeerListaProductosPorTipo(Entorno& entorno, const QString& tipo) {
+std::optional<LineasProductos> LeerListaProductosPorTipo(Entorno& entorno, const QString& tipo) {
   const QString sentencia =
       tipo == u"cocina"_s
           ? u"Select * from productos where borrar = 0 and tipoprod = 0 order by nombre"_s

@@ -8,7 +8,7 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 
 #include "formulario_prueba.h"
@@ -55,11 +55,12 @@ inline void Escribir(FormularioPrueba& f, const QString& nombre, const QString& 
 
 // Touches the line of a list that starts with the text.
 inline void TocarLinea(FormularioPrueba& f, const QString& lista, const QString& texto) {
-  auto* l = f.control<QListWidget>(lista);
+  auto* l = f.control<QListView>(lista);
   QVERIFY2(l && l->isVisible(), qPrintable(lista));
-  for (int i = 0; i < l->count(); ++i) {
-    if (l->item(i)->text().startsWith(texto)) {
-      QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualItemRect(l->item(i)).center());
+  for (int i = 0; i < l->model()->rowCount(); ++i) {
+    const QModelIndex linea = l->model()->index(i, 0);
+    if (linea.data().toString().startsWith(texto)) {
+      QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualRect(linea).center());
       return;
     }
   }

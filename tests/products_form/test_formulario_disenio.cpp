@@ -60,7 +60,7 @@ void Revisar(FormularioPrueba& f, const QString& estado) {
       continue;
     if (!qobject_cast<QAbstractButton*>(w) && !qobject_cast<QLabel*>(w) &&
         !qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w) &&
-        !qobject_cast<QListWidget*>(w) && !qobject_cast<QGroupBox*>(w) &&
+        !qobject_cast<QListView*>(w) && !qobject_cast<QGroupBox*>(w) &&
         !qobject_cast<PanelObjNuevo*>(w)) {
       continue;
     }
@@ -165,7 +165,8 @@ void TestFormularioDisenio::cadaControlConSuNombreYSuClase() {
                  "pic_Color lbl_colorElab lblProdASel lbl_ProductoElaborado"_s);
   Exigir<QListWidget>(f,
                       u"lb_Proveedores lb_ProveedoresAsignados lb_impresoras lbCodigos "
-                      "lstProductos lb_Productos lb_ProductosSel lb_ProductosElaborados"_s);
+                      "lb_ProductosSel"_s);
+  Exigir<QListView>(f, u"lstProductos lb_Productos lb_ProductosElaborados"_s);
   Exigir<QRadioButton>(f,
                        u"optCocina optBarra opt_cocina opt_Venta opt_ambos optBarraElab "
                        "optCocinaElab"_s);

@@ -1,4 +1,4 @@
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 #include <QtTest>
 
@@ -16,10 +16,10 @@ class TestFormularioListasComponentes : public QObject {
 
 namespace {
 
-QStringList Lineas(QListWidget* lista) {
+QStringList Lineas(QListView* lista) {
   QStringList r;
-  for (int i = 0; i < lista->count(); ++i)
-    r.append(lista->item(i)->text());
+  for (int i = 0; i < lista->model()->rowCount(); ++i)
+    r.append(lista->model()->index(i, 0).data().toString());
   return r;
 }
 
@@ -38,8 +38,8 @@ void TestFormularioListasComponentes::lasListasDelElaboradoSeLlenanYSeFiltranPor
   });
   QVERIFY(f.mostrar());
   QTest::mouseClick(f.control<QPushButton>(u"cmd_ProdElaborado"_s), Qt::LeftButton);
-  auto* componentes = f.control<QListWidget>(u"lb_Productos"_s);
-  auto* elaborados = f.control<QListWidget>(u"lb_ProductosElaborados"_s);
+  auto* componentes = f.control<QListView>(u"lb_Productos"_s);
+  auto* elaborados = f.control<QListView>(u"lb_ProductosElaborados"_s);
   const QString pan = LineaLista(u"Pan"_s, u"1"_s);
   const QString cana = LineaLista(u"Caña"_s, u"2"_s);
   const QString agua = LineaLista(u"Agua"_s, u"3"_s);

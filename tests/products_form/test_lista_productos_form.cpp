@@ -3,7 +3,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 
 #include "formulario_prueba.h"
@@ -17,10 +17,10 @@ bool ListaVisible(FormularioPrueba& f) {
 }
 
 QStringList Lineas(FormularioPrueba& f) {
-  const auto* lista = f.control<QListWidget>(u"lstProductos"_s);
+  const QAbstractItemModel* lista = f.control<QListView>(u"lstProductos"_s)->model();
   QStringList lineas;
-  for (int i = 0; i < lista->count(); ++i)
-    lineas.append(lista->item(i)->text());
+  for (int i = 0; i < lista->rowCount(); ++i)
+    lineas.append(lista->index(i, 0).data().toString());
   return lineas;
 }
 
@@ -61,8 +61,8 @@ void TestListaProductosForm::laListaSeAbreYSeCierraConSuBoton() {
   QCOMPARE(Lineas(f), (QStringList{Linea(u"Agua"_s, u"12"_s), Linea(u"Caña"_s, u"4"_s),
                                    Linea(u"Vino"_s, u"7"_s)}));
   // Each line is a fingertip high.
-  auto* lista = f.control<QListWidget>(u"lstProductos"_s);
-  QVERIFY(lista->visualItemRect(lista->item(0)).height() >= 44);
+  auto* lista = f.control<QListView>(u"lstProductos"_s);
+  QVERIFY(lista->visualRect(lista->model()->index(0, 0)).height() >= 44);
   Pulsar(f, u"cmd_ListaProd"_s);
   QVERIFY(!ListaVisible(f));
   Pulsar(f, u"cmd_ListaProd"_s);
@@ -122,8 +122,8 @@ void TestListaProductosForm::unDobleClicMuestraEseProducto() {
   Pulsar(f, u"cmd_ProdGenerico"_s);
   QCOMPARE(f.control<QLineEdit>(u"txt_nombre"_s)->text(), u"Agua"_s);
   Pulsar(f, u"cmd_ListaProd"_s);
-  auto* lista = f.control<QListWidget>(u"lstProductos"_s);
-  const QRect fila = lista->visualItemRect(lista->item(1));
+  auto* lista = f.control<QListView>(u"lstProductos"_s);
+  const QRect fila = lista->visualRect(lista->model()->index(1, 0));
   QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
   QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
   QTRY_VERIFY(!ListaVisible(f));

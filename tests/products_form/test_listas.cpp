@@ -43,21 +43,21 @@ void TestListas::unCodigoDeMasDeDiezCifrasNoSeLeeEntero() {
 void TestListas::laListaDeTodosLosProductosVivosPorNombre() {
   InstalacionPrueba prueba;
   Productos(prueba);
-  const std::optional<QStringList> lineas = LeerListaProductos(prueba.entorno());
+  const std::optional<LineasProductos> lineas = LeerListaProductos(prueba.entorno());
   QVERIFY(lineas);
-  QCOMPARE(*lineas, (QStringList{LineaLista(u"Aceite"_s, u"12"_s), LineaLista(u"Café"_s, u"5"_s),
-                                 LineaLista(u"Tortilla"_s, u"3"_s)}));
+  QCOMPARE(lineas->todas(),
+           (QStringList{LineaLista(u"Aceite"_s, u"12"_s), LineaLista(u"Café"_s, u"5"_s),
+                        LineaLista(u"Tortilla"_s, u"3"_s)}));
   QVERIFY(prueba.dialogos().llamadas().isEmpty());
 }
 
 void TestListas::lasListasPorTipo() {
   InstalacionPrueba prueba;
   Productos(prueba);
-  QCOMPARE(LeerListaProductosPorTipo(prueba.entorno(), u"cocina"_s),
-           std::optional<QStringList>(QStringList{LineaLista(u"Aceite"_s, u"12"_s)}));
-  QCOMPARE(LeerListaProductosPorTipo(prueba.entorno(), u"barra"_s),
-           std::optional<QStringList>(
-               QStringList{LineaLista(u"Café"_s, u"5"_s), LineaLista(u"Tortilla"_s, u"3"_s)}));
+  QCOMPARE(LeerListaProductosPorTipo(prueba.entorno(), u"cocina"_s)->todas(),
+           QStringList{LineaLista(u"Aceite"_s, u"12"_s)});
+  QCOMPARE(LeerListaProductosPorTipo(prueba.entorno(), u"barra"_s)->todas(),
+           (QStringList{LineaLista(u"Café"_s, u"5"_s), LineaLista(u"Tortilla"_s, u"3"_s)}));
   // Any word other than "cocina", capitals included, gives the products for sale.
   QCOMPARE(LeerListaProductosPorTipo(prueba.entorno(), u"Cocina"_s)->size(), 2);
 }
