@@ -1,5 +1,10 @@
 #include "listas_productos.h"
 
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+#include "conexion.h"
 #include "entorno.h"
 #include "error_bd.h"
 #include "lineas_productos.h"
@@ -28,13 +33,21 @@ std::optional<LineasProductos> LeerLineas(Entorno& entorno, const QString& sente
 }  // namespace
 
 LineasProductos LineasDeProductos(Entorno& entorno, const QString& sentencia) {
-  Recordset rs(*entorno.ConexionBD, sentencia);
+  // The rows are taken off the cursor one by one and only their name and code are kept: a list
+  // of the catalogue is never held whole, every column of it, as a recordset would hold it.
+  QSqlQuery filas = entorno.ConexionBD->consultar(sentencia);
   LineasProductos lineas;
-  while (!rs.eof()) {
-    lineas.anadir(rs.field(u"nombre"_s).toString(), rs.field(u"codigo"_s).toString());
-    rs.moveNext();
+  int nombre = -1;
+  int codigo = -1;
+  while (filas.next()) {
+    if (nombre < 0) {
+      nombre = IndiceCampo(filas.record(), u"nombre"_s);
+      codigo = IndiceCampo(filas.record(), u"codigo"_s);
+    }
+    lineas.anadir(filas.value(nombre).toString(), filas.value(codigo).toString());
   }
-  rs.close();
+  if (filas.lastError().isValid())
+    throw ErrorBD(DescripcionError(filas.lastError()));
   return lineas;
 }
 
