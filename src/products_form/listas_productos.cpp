@@ -1,12 +1,8 @@
 #include "listas_productos.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
-
-#include "conexion.h"
 #include "entorno.h"
 #include "error_bd.h"
+#include "lector_filas.h"
 #include "lineas_productos.h"
 #include "recordset.h"
 
@@ -35,19 +31,10 @@ std::optional<LineasProductos> LeerLineas(Entorno& entorno, const QString& sente
 LineasProductos LineasDeProductos(Entorno& entorno, const QString& sentencia) {
   // The rows are taken off the cursor one by one and only their name and code are kept: a list
   // of the catalogue is never held whole, every column of it, as a recordset would hold it.
-  QSqlQuery filas = entorno.ConexionBD->consultar(sentencia);
+  LectorFilas filas(*entorno.ConexionBD, sentencia);
   LineasProductos lineas;
-  int nombre = -1;
-  int codigo = -1;
-  while (filas.next()) {
-    if (nombre < 0) {
-      nombre = IndiceCampo(filas.record(), u"nombre"_s);
-      codigo = IndiceCampo(filas.record(), u"codigo"_s);
-    }
-    lineas.anadir(filas.value(nombre).toString(), filas.value(codigo).toString());
-  }
-  if (filas.lastError().isValid())
-    throw ErrorBD(DescripcionError(filas.lastError()));
+  while (filas.siguiente())
+    lineas.anadir(filas.field(u"nombre"_s).toString(), filas.field(u"codigo"_s).toString());
   return lineas;
 }
 
