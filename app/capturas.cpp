@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
-#include <QListWidget>
+#include <QListView>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -21,8 +21,8 @@ struct Paso {
 };
 
 void TocarPrimeraLinea(QWidget* formulario, const QString& nombre) {
-  if (auto* l = formulario->findChild<QListWidget*>(nombre); l && l->count() > 0)
-    l->setCurrentRow(0);
+  if (auto* l = formulario->findChild<QListView*>(nombre); l && l->model()->rowCount() > 0)
+    l->setCurrentIndex(l->model()->index(0, 0));
 }
 
 // A button by its name, in the dialog open over the form first; "panel/boton" names a button

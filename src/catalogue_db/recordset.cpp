@@ -259,11 +259,15 @@ const Recordset::Fila& Recordset::filaActual() const {
 int Recordset::indiceCampo(const QString& nombre) const {
   if (const auto hallado = indices_.constFind(nombre); hallado != indices_.cend())
     return *hallado;
-  for (int i = 0; i < campos_.count(); ++i) {
-    if (campos_.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0) {
-      indices_.insert(nombre, i);
+  const int i = IndiceCampo(campos_, nombre);
+  indices_.insert(nombre, i);
+  return i;
+}
+
+int IndiceCampo(const QSqlRecord& campos, const QString& nombre) {
+  for (int i = 0; i < campos.count(); ++i) {
+    if (campos.fieldName(i).compare(nombre, Qt::CaseInsensitive) == 0)
       return i;
-    }
   }
   throw ErrorBD(
       u"No se encontró el elemento en la colección que corresponde con el nombre o el ordinal "

@@ -112,3 +112,7 @@ class Recordset {
   // so that a changed row is written back to that row alone.
   QStringList claveOculta_;
 };
+
+// The position of a column among a statement's columns, by name ignoring letter case, as a
+// recordset finds its fields; throws ErrorBD when there is none.
+int IndiceCampo(const QSqlRecord& campos, const QString& nombre);

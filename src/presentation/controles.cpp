@@ -7,7 +7,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -79,7 +79,7 @@ TipoControl TipoDe(const QWidget* control) {
     return TipoControl::Rejilla;
   if (qobject_cast<const QLineEdit*>(control) || qobject_cast<const QTextEdit*>(control) ||
       qobject_cast<const QPlainTextEdit*>(control) || qobject_cast<const QComboBox*>(control) ||
-      qobject_cast<const QListWidget*>(control) || qobject_cast<const QAbstractSpinBox*>(control)) {
+      qobject_cast<const QListView*>(control) || qobject_cast<const QAbstractSpinBox*>(control)) {
     return TipoControl::Entrada;
   }
   return TipoControl::Otro;

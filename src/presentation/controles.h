@@ -18,10 +18,9 @@ class QWidget;
 //   - Qt's own helper widgets (names starting "qt_") and separate windows are never controls.
 // The kinds:
 //   command button: QPushButton;  label: QLabel;  frame: QGroupBox (the panels "fr_...");
-//   entry control: QLineEdit, QTextEdit, QPlainTextEdit, QComboBox, QListWidget and the spin
-//   boxes (they all take typed or listed values);
-//   grid: QTableWidget (any QTableView);  anything else (check and option buttons, pictures,
-//   panels): other.
+//   entry control: QLineEdit, QTextEdit, QPlainTextEdit, QComboBox, the list boxes (QListView) and
+//   the spin boxes (they all take typed or listed values); grid: QTableWidget (any QTableView);
+//   anything else (check and option buttons, pictures, panels): other.
 enum class TipoControl { Boton, Etiqueta, Marco, Entrada, Rejilla, Otro };
 
 TipoControl TipoDe(const QWidget* control);

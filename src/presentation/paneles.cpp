@@ -5,8 +5,8 @@
 #include <QDir>
 
 #include "entorno.h"
+#include "lector_filas.h"
 #include "panel_obj_nuevo.h"
-#include "recordset.h"
 #include "utilidades.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,16 +53,12 @@ bool EsCero(const QVariant& valor) {
 
 TablaPanel LeerTabla(Conexion& conexion, const QString& sentencia, const QString& carpetaFotos,
                      bool esFamilias) {
-  Recordset rs(conexion, sentencia);
+  // The rows are read one by one and only the fields that the panel shows are kept.
+  LectorFilas rs(conexion, sentencia);
   TablaPanel tabla;
-  if (rs.recordCount() <= 0) {
-    rs.close();
-    return tabla;
-  }
-  tabla.reserve(rs.recordCount());
   const QString columnaImagen = esFamilias ? u"Imagen"_s : u"foto"_s;
   BuscadorArchivos fotos;
-  while (!rs.eof()) {
+  while (rs.siguiente()) {
     EntradaPanel e;
     e.codigo = TextoDe(rs.field(u"codigo"_s));
     e.descNumerica = TextoDe(rs.field(u"descNumerica"_s));
@@ -75,9 +71,7 @@ TablaPanel LeerTabla(Conexion& conexion, const QString& sentencia, const QString
     if (esFamilias || !imagen.isNull())
       e.imagen = RutaImagenPanel(carpetaFotos, TextoDe(imagen), fotos);
     tabla.append(e);
-    rs.moveNext();
   }
-  rs.close();
   return tabla;
 }
 

@@ -1,9 +1,11 @@
 #include "codigos_producto.h"
 
 #include <limits>
+#include <optional>
 
 #include "entorno.h"
 #include "error_bd.h"
+#include "lector_filas.h"
 #include "recordset.h"
 #include "val.h"
 
@@ -44,14 +46,12 @@ bool ExisteProducto(Conexion& conexion, qint64 codigo) {
 }
 
 qint64 CodigoProductoNuevo(Conexion& conexion) {
-  Recordset rs(conexion, u"select codigo from productos order by val(codigo)"_s);
-  qint64 codigo = 1;
-  if (rs.recordCount() > 0) {
-    rs.moveLast();
-    codigo = Entero(rs.field(u"codigo"_s), u"codigo"_s) + 1;
-  }
-  rs.close();
-  return codigo;
+  // The last row is the one wanted: the rows before it are read past, not kept.
+  LectorFilas filas(conexion, u"select codigo from productos order by val(codigo)"_s);
+  std::optional<QVariant> ultimo;
+  while (filas.siguiente())
+    ultimo = filas.field(u"codigo"_s);
+  return ultimo ? Entero(*ultimo, u"codigo"_s) + 1 : 1;
 }
 
 std::optional<qint64> SiguienteCodigo(Entorno& entorno) {
@@ -65,15 +65,12 @@ std::optional<qint64> SiguienteCodigo(Entorno& entorno) {
 
 std::optional<QString> ValorPonerOrden(Entorno& entorno) {
   try {
-    Recordset rs(*entorno.ConexionBD,
-                 u"Select orden from productos where borrar = 0 order by orden"_s);
-    QString valor = u"0"_s;
-    if (rs.recordCount() > 0) {
-      rs.moveLast();
-      valor = QString::number(Entero(rs.field(u"orden"_s), u"orden"_s) + 1);
-    }
-    rs.close();
-    return valor;
+    LectorFilas filas(*entorno.ConexionBD,
+                      u"Select orden from productos where borrar = 0 order by orden"_s);
+    std::optional<QVariant> ultimo;
+    while (filas.siguiente())
+      ultimo = filas.field(u"orden"_s);
+    return ultimo ? QString::number(Entero(*ultimo, u"orden"_s) + 1) : u"0"_s;
   } catch (const ErrorBD& e) {
     entorno.RegistrarError(kContextoPonerOrden, e.descripcion());
     return std::nullopt;
@@ -89,14 +86,11 @@ std::optional<QString> ValorMensajeNumero(Entorno& entorno, int tipoProducto) {
           : u"Select descnumerica from productos where borrar = 0 and mostrarencaja = 0 order by "
             "descnumerica desc"_s;
   try {
-    Recordset rs(*entorno.ConexionBD, sentencia);
-    QString valor = u"1"_s;
-    if (rs.recordCount() > 0) {
-      rs.moveFirst();
-      valor = QString::number(Entero(rs.field(u"descnumerica"_s), u"descnumerica"_s) + 1);
-    }
-    rs.close();
-    return valor;
+    // The first row is the one wanted: the others are not read.
+    LectorFilas filas(*entorno.ConexionBD, sentencia);
+    if (!filas.siguiente())
+      return u"1"_s;
+    return QString::number(Entero(filas.field(u"descnumerica"_s), u"descnumerica"_s) + 1);
   } catch (const ErrorBD& e) {
     entorno.RegistrarError(kContextoMensajeNumero, e.descripcion());
     return std::nullopt;

@@ -101,11 +101,28 @@ QRadioButton* CrearOpcion(QWidget* padre, const QString& nombre, const QString& 
   return o;
 }
 
-QListWidget* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria) {
-  auto* l = Colocar(new QListWidget(padre), nombre, geometria);
+namespace {
+
+template <typename Lista>
+Lista* ColocarLista(Lista* l, const QString& nombre, const QRect& geometria) {
+  Colocar(l, nombre, geometria);
   // The code of each line stands far to the right, out of sight; it must stay there.
   l->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   l->setTextElideMode(Qt::ElideNone);
+  return l;
+}
+
+}  // namespace
+
+QListWidget* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria) {
+  return ColocarLista(new QListWidget(padre), nombre, geometria);
+}
+
+QListView* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria,
+                      QAbstractItemModel* modelo) {
+  auto* l = ColocarLista(new QListView(padre), nombre, geometria);
+  modelo->setParent(l);
+  l->setModel(modelo);
   return l;
 }
 

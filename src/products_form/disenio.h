@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <initializer_list>
 
+class QAbstractItemModel;
 class QAbstractItemView;
 class QCheckBox;
 class QColor;
@@ -12,6 +13,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QListView;
 class QListWidget;
 class QPushButton;
 class QRadioButton;
@@ -46,6 +48,9 @@ QCheckBox* CrearCasilla(QWidget* padre, const QString& nombre, const QString& ca
 QRadioButton* CrearOpcion(QWidget* padre, const QString& nombre, const QString& caption,
                           const QRect& geometria);
 QListWidget* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria);
+// A list box that shows a model, which becomes the list's.
+QListView* CrearLista(QWidget* padre, const QString& nombre, const QRect& geometria,
+                      QAbstractItemModel* modelo);
 // A picture box: a framed label that shows a pixmap, or only its back colour.
 QLabel* CrearImagen(QWidget* padre, const QString& nombre, const QRect& geometria);
 // A frame of the form. Frames are flat; the screens and panels that cover others paint their

@@ -4,10 +4,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 
 #include "alta_producto.h"
 #include "atajos_teclado.h"
@@ -18,6 +19,7 @@
 #include "estado_formulario.h"
 #include "grabacion_producto.h"
 #include "importes.h"
+#include "lineas_productos.h"
 #include "lista_productos_form.h"
 #include "listas_componentes.h"
 #include "listas_productos.h"
@@ -80,13 +82,13 @@ void Elaborados::conectar() {
   visualizacion_.cargarIngredientes = [this](const QString& codigo) { CargarIngredientes(codigo); };
   importes_.aceptarCantidad = [this](double cantidad) { completarComponente(cantidad); };
   importes_.descartarCantidad = [this] { descartarComponente(); };
-  connect(e.lb_ProductosElaborados, &QListWidget::currentItemChanged, this,
-          [this](const QListWidgetItem* linea) {
-            if (linea && enNavegacion())
-              MostrarElaborado(QString::number(CodigoDeLinea(linea->text())));
+  connect(e.lb_ProductosElaborados->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& linea) {
+            if (linea.isValid() && !seleccionando_ && enNavegacion())
+              MostrarElaborado(QString::number(CodigoDeLinea(linea.data().toString())));
           });
-  connect(e.lb_Productos, &QListWidget::itemDoubleClicked, this, &Elaborados::ElegirComponente);
-  connect(e.lb_Productos, &QListWidget::itemActivated, this, &Elaborados::ElegirComponente);
+  connect(e.lb_Productos, &QListView::doubleClicked, this, &Elaborados::ElegirComponente);
+  connect(e.lb_Productos, &QListView::activated, this, &Elaborados::ElegirComponente);
   connect(e.bt_flecha, &QPushButton::clicked, this, &Elaborados::ElegirComponente);
   connect(e.lb_ProductosSel, &QListWidget::itemDoubleClicked, this, &Elaborados::CambiarComponente);
   connect(e.lb_ProductosSel, &QListWidget::itemActivated, this, &Elaborados::CambiarComponente);
@@ -159,12 +161,14 @@ void Elaborados::MostrarElaborado(const QString& codigo) {
 }
 
 void Elaborados::seleccionarEnLista() {
-  QListWidget* lista = c_.elab.lb_ProductosElaborados;
-  const QSignalBlocker bloqueo(lista);
-  lista->setCurrentItem(nullptr);
-  for (int i = 0; i < lista->count(); ++i) {
-    if (CodigoDeLinea(lista->item(i)->text()) == estado_.codigoActual) {
-      lista->setCurrentRow(i);
+  QListView* lista = c_.elab.lb_ProductosElaborados;
+  const QScopedValueRollback seleccionando(seleccionando_, true);
+  lista->setCurrentIndex({});
+  const LineasProductos& lineas = ModeloDe(lista)->lineas();
+  for (qsizetype i = 0; i < lineas.size(); ++i) {
+    // The code of a line, read without building the line.
+    if (CodigoDeLinea(lineas.codigo(i).toString()) == estado_.codigoActual) {
+      lista->setCurrentIndex(lista->model()->index(static_cast<int>(i), 0));
       break;
     }
   }
@@ -172,13 +176,13 @@ void Elaborados::seleccionarEnLista() {
 
 void Elaborados::ElegirComponente() {
   PantallaElaborados& e = c_.elab;
-  QListWidgetItem* linea = e.lb_Productos->currentItem();
-  if (!linea || !e.lb_Productos->isEnabled() || !c_.marcos.fr_Cantidad->isHidden())
+  const QModelIndex linea = e.lb_Productos->currentIndex();
+  if (!linea.isValid() || !e.lb_Productos->isEnabled() || !c_.marcos.fr_Cantidad->isHidden())
     return;
-  const QString candidato = linea->text();
+  const QString candidato = linea.data().toString();
   e.lb_ProductosSel->addItem(candidato);
   filaPendiente_ = e.lb_ProductosSel->count() - 1;
-  delete e.lb_Productos->takeItem(e.lb_Productos->row(linea));
+  ModeloDe(e.lb_Productos)->quitar(linea.row());
   preguntarCantidad(candidato);
 }
 

@@ -86,4 +86,6 @@ class Elaborados : public QObject {
   // The component waiting for its quantity, as a candidate line, and its row in the recipe.
   QString pendiente_;
   int filaPendiente_ = -1;
+  // The list of elaborated products follows the product shown: that move shows nothing.
+  bool seleccionando_ = false;
 };

@@ -2,10 +2,11 @@
 
 #include <QEvent>
 #include <QGroupBox>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 
 #include "disenio.h"
+#include "lineas_productos.h"
 #include "listas_productos.h"
 #include "visualizacion.h"
 
@@ -25,7 +26,7 @@ void ListaProductosForm::conectar() {
           &ListaProductosForm::cmd_ListaProdClick);
   connect(m.cmdCocina, &QPushButton::clicked, this, [this] { MostrarListaProductos(u"cocina"_s); });
   connect(m.cmdBarra, &QPushButton::clicked, this, [this] { MostrarListaProductos(u"barra"_s); });
-  connect(m.lstProductos, &QListWidget::itemDoubleClicked, this,
+  connect(m.lstProductos, &QListView::doubleClicked, this,
           &ListaProductosForm::lstProductosDobleClick);
 }
 
@@ -35,13 +36,12 @@ bool ListaProductosForm::eventFilter(QObject* objeto, QEvent* evento) {
   return QObject::eventFilter(objeto, evento);
 }
 
-void ListaProductosForm::llenar(const std::optional<QStringList>& lineas) {
+void ListaProductosForm::llenar(std::optional<LineasProductos> lineas) {
   MarcosAuxiliares& m = c_.marcos;
   if (!lineas)
     return;
-  m.lstProductos->clear();
+  ModeloDe(m.lstProductos)->poner(std::move(*lineas));
   MostrarMarco(m.frListaProductos);
-  m.lstProductos->addItems(*lineas);
 }
 
 void ListaProductosForm::cmd_ListaProdClick() {
@@ -58,10 +58,10 @@ void ListaProductosForm::MostrarListaProductos(const QString& tipo) {
 
 void ListaProductosForm::lstProductosDobleClick() {
   MarcosAuxiliares& m = c_.marcos;
-  const QListWidgetItem* linea = m.lstProductos->currentItem();
-  if (!linea)
+  const QModelIndex linea = m.lstProductos->currentIndex();
+  if (!linea.isValid())
     return;
-  visualizacion_.MostrarCodigo(CodigoDeLineaLista(linea->text()));
+  visualizacion_.MostrarCodigo(CodigoDeLineaLista(linea.data().toString()));
   m.frListaProductos->hide();
   HacerListaTactil(m.lstProductos);
 }

@@ -5,10 +5,10 @@
 #include <QStringList>
 #include <optional>
 
+#include "lineas_productos.h"
 #include "pantallas.h"
 
 struct Entorno;
-class QListWidget;
 class Visualizacion;
 
 // The pop-up list of products over the simple products' screen: cmd_ListaProd opens it with
@@ -32,7 +32,7 @@ class ListaProductosForm : public QObject {
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:
-  void llenar(const std::optional<QStringList>& lineas);
+  void llenar(std::optional<LineasProductos> lineas);
 
   Entorno& entorno_;
   ControlesFormulario& c_;

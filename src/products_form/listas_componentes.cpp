@@ -1,6 +1,6 @@
 #include "listas_componentes.h"
 
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 
 #include "disenio.h"
@@ -8,20 +8,8 @@
 #include "error_bd.h"
 #include "listas_productos.h"
 #include "modos.h"
-#include "recordset.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-QStringList LineasDeProductos(Entorno& entorno, const QString& sentencia) {
-  Recordset rs(*entorno.ConexionBD, sentencia);
-  QStringList lineas;
-  while (!rs.eof()) {
-    lineas.append(LineaLista(rs.field(u"nombre"_s).toString(), rs.field(u"codigo"_s).toString()));
-    rs.moveNext();
-  }
-  rs.close();
-  return lineas;
-}
 
 ListasComponentes::ListasComponentes(Entorno& entorno, ControlesFormulario& controles,
                                      QObject* padre)
@@ -41,11 +29,9 @@ void ListasComponentes::conectar(Modos& modos) {
   connect(c_.elab.cmdCVenta, &QPushButton::clicked, this, &ListasComponentes::CargarSoloProdVenta);
 }
 
-void ListasComponentes::cargar(QListWidget* lista, const QString& sentencia) {
+void ListasComponentes::cargar(QListView* lista, const QString& sentencia) {
   try {
-    const QStringList lineas = LineasDeProductos(entorno_, sentencia);
-    lista->clear();
-    lista->addItems(lineas);
+    ModeloDe(lista)->poner(LineasDeProductos(entorno_, sentencia));
   } catch (const ErrorBD& e) {
     entorno_.RegistrarError(kContextoListasComponentes, e.descripcion());
   }

@@ -29,9 +29,6 @@ inline const QString kSentenciaSoloProdVenta = QStringLiteral(
 
 inline const QString kContextoListasComponentes = QStringLiteral("ListaProductos  3");
 
-// The list lines of the products a statement returns; database failures are left to the caller.
-QStringList LineasDeProductos(Entorno& entorno, const QString& sentencia);
-
 class ListasComponentes : public QObject {
  public:
   ListasComponentes(Entorno& entorno, ControlesFormulario& controles, QObject* padre = nullptr);
@@ -45,7 +42,7 @@ class ListasComponentes : public QObject {
   void CargarSoloProdVenta();
 
  private:
-  void cargar(class QListWidget* lista, const QString& sentencia);
+  void cargar(class QListView* lista, const QString& sentencia);
 
   Entorno& entorno_;
   ControlesFormulario& c_;

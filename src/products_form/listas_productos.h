@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <optional>
 
+#include "lineas_productos.h"
+
 struct Entorno;
 
 // The list boxes of the products form carry each record's key inside the line: the name, a run
@@ -24,10 +26,13 @@ QString LineaLista(const QString& nombre, const QString& codigo, int blancos = k
 // The code of a product line: its last 10 characters without surrounding blanks.
 QString CodigoDeLineaLista(const QString& linea);
 
+// The list lines of the products a statement returns; database failures are left to the caller.
+LineasProductos LineasDeProductos(Entorno& entorno, const QString& sentencia);
+
 // The lines of the pop-up list of every live product, by name. With no product the notice
 // "No hay productos dados de alta." is shown and there is no list to show; a database failure
 // is logged and there is none either.
-std::optional<QStringList> LeerListaProductos(Entorno& entorno);
+std::optional<LineasProductos> LeerListaProductos(Entorno& entorno);
 // The same for the products of one kind: "cocina" lists the kitchen and bar products of
 // internal use (tipoprod = 0), any other word the products for sale (tipoprod > 0).
-std::optional<QStringList> LeerListaProductosPorTipo(Entorno& entorno, const QString& tipo);
+std::optional<LineasProductos> LeerListaProductosPorTipo(Entorno& entorno, const QString& tipo);

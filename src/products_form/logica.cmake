@@ -5,6 +5,7 @@ add_library(products_form_logica STATIC
   ${CMAKE_CURRENT_LIST_DIR}/grabacion_producto.cpp ${CMAKE_CURRENT_LIST_DIR}/grabacion_producto.h
   ${CMAKE_CURRENT_LIST_DIR}/imagen_producto.cpp ${CMAKE_CURRENT_LIST_DIR}/imagen_producto.h
   ${CMAKE_CURRENT_LIST_DIR}/impresoras_producto.cpp ${CMAKE_CURRENT_LIST_DIR}/impresoras_producto.h
+  ${CMAKE_CURRENT_LIST_DIR}/lineas_productos.cpp ${CMAKE_CURRENT_LIST_DIR}/lineas_productos.h
   ${CMAKE_CURRENT_LIST_DIR}/listas_productos.cpp ${CMAKE_CURRENT_LIST_DIR}/listas_productos.h
   ${CMAKE_CURRENT_LIST_DIR}/receta.cpp ${CMAKE_CURRENT_LIST_DIR}/receta.h
   ${CMAKE_CURRENT_LIST_DIR}/proveedores_producto.cpp ${CMAKE_CURRENT_LIST_DIR}/proveedores_producto.h

@@ -3,10 +3,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QListWidget>
 #include <QPushButton>
 
 #include "disenio.h"
+#include "lineas_productos.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -75,7 +77,8 @@ void CrearImpresoras(MarcosAuxiliares& m, QWidget* f) {
 void CrearListaProductos(MarcosAuxiliares& m, QWidget* f) {
   m.frListaProductos = Marco(f, u"frListaProductos"_s, u"Productos"_s, QRect(180, 30, 664, 480));
   QWidget* p = m.frListaProductos;
-  m.lstProductos = Normal(CrearLista(p, u"lstProductos"_s, QRect(16, 40, 632, 364)));
+  m.lstProductos =
+      Normal(CrearLista(p, u"lstProductos"_s, QRect(16, 40, 632, 364), new ModeloLineas));
   m.cmdCocina = Normal(CrearBoton(p, u"cmdCocina"_s, u"Cocina"_s, QRect(16, 418, 200, 48)));
   m.cmdBarra = Normal(CrearBoton(p, u"cmdBarra"_s, u"Barra"_s, QRect(228, 418, 200, 48)));
 }

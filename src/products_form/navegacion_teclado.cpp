@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QListView>
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
@@ -104,12 +105,14 @@ NavegacionTeclado::NavegacionTeclado(ControlesFormulario& controles, QWidget* fo
   for (QListWidget* lista : {m.lb_Proveedores, m.lb_ProveedoresAsignados, c_.elab.lb_ProductosSel})
     HacerListaTactil(lista);
   HacerListaTactil(c_.gen.cbo_Medida->view());
-  const QList<QListWidget*> listas = formulario->findChildren<QListWidget*>();
+  QList<QListView*> listas = {m.lstProductos, c_.elab.lb_Productos, c_.elab.lb_ProductosElaborados};
+  for (QListWidget* lista : formulario->findChildren<QListWidget*>())
+    listas.append(lista);
   // A finger drags a list to scroll it; a touch that does not move takes its line at once, so
   // that the button pressed next (the arrow of the recipe page, say) finds it taken.
   QScrollerProperties arrastre;
   arrastre.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0);
-  for (QListWidget* lista : listas) {
+  for (QListView* lista : std::as_const(listas)) {
     QScroller::grabGesture(lista->viewport(), QScroller::LeftMouseButtonGesture);
     QScroller::scroller(lista->viewport())->setScrollerProperties(arrastre);
     // The recipe page's lists answer Enter themselves: it chooses a component or asks a
@@ -244,16 +247,16 @@ bool NavegacionTeclado::eventFilter(QObject* objeto, QEvent* evento) {
   }
   if (!EsTeclaDeAccion(evento))
     return QObject::eventFilter(objeto, evento);
-  if (auto* lista = qobject_cast<QListWidget*>(objeto)) {
-    QListWidgetItem* linea = lista->currentItem();
-    if (!linea)
+  if (auto* lista = qobject_cast<QListView*>(objeto)) {
+    const QModelIndex linea = lista->currentIndex();
+    if (!linea.isValid())
       return false;
     // The pop-up list of products opens a product with a double touch; the others take a line
     // with one.
     if (lista == c_.marcos.lstProductos)
-      emit lista->itemDoubleClicked(linea);
+      emit lista->doubleClicked(linea);
     else
-      emit lista->itemClicked(linea);
+      emit lista->clicked(linea);
     return true;
   }
   // A picture or colour box: a touch in its middle.

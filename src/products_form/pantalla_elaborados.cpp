@@ -3,11 +3,13 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include "disenio.h"
+#include "lineas_productos.h"
 #include "panel_obj_nuevo.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -72,10 +74,11 @@ void CrearListas(PantallaElaborados& p, QWidget* m) {
   PonerLetra(p.lblProdASel, disenio::kLetraTitulo, true);
   const int y = kListasY + 34;
   p.lbl_Elaborados = CrearEtiqueta(m, u"lbl_Elaborados"_s, u"Elaborados"_s, QRect(8, y, 210, 28));
-  p.lb_ProductosElaborados = CrearLista(m, u"lb_ProductosElaborados"_s, QRect(8, y + 30, 210, 176));
+  p.lb_ProductosElaborados =
+      CrearLista(m, u"lb_ProductosElaborados"_s, QRect(8, y + 30, 210, 176), new ModeloLineas);
   p.lbl_Candidatos =
       CrearEtiqueta(m, u"lbl_Candidatos"_s, u"Componentes"_s, QRect(226, y, 236, 28));
-  p.lb_Productos = CrearLista(m, u"lb_Productos"_s, QRect(226, y + 30, 236, 176));
+  p.lb_Productos = CrearLista(m, u"lb_Productos"_s, QRect(226, y + 30, 236, 176), new ModeloLineas);
   p.bt_flecha = CrearBoton(m, u"bt_flecha"_s, QString(QChar(0x25B6)), QRect(468, y + 80, 44, 80));
   p.lbl_Componentes = CrearEtiqueta(m, u"lbl_Componentes"_s, u"Receta"_s, QRect(518, y, 174, 28));
   p.lb_ProductosSel = CrearLista(m, u"lb_ProductosSel"_s, QRect(518, y + 30, 174, 176));

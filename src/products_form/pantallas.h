@@ -9,6 +9,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QListView;
 class QListWidget;
 class QPushButton;
 class QRadioButton;
@@ -136,9 +137,9 @@ struct PantallaElaborados {
 
   QLabel* lblProdASel = nullptr;
   QLabel* lbl_Elaborados = nullptr;
-  QListWidget* lb_ProductosElaborados = nullptr;
+  QListView* lb_ProductosElaborados = nullptr;  // over a ModeloLineas, as lb_Productos
   QLabel* lbl_Candidatos = nullptr;
-  QListWidget* lb_Productos = nullptr;
+  QListView* lb_Productos = nullptr;
   QPushButton* bt_flecha = nullptr;
   QLabel* lbl_Componentes = nullptr;
   QListWidget* lb_ProductosSel = nullptr;
@@ -201,7 +202,7 @@ struct MarcosAuxiliares {
   QPushButton* cmdCerrarImpresoras = nullptr;
 
   QGroupBox* frListaProductos = nullptr;
-  QListWidget* lstProductos = nullptr;
+  QListView* lstProductos = nullptr;  // over a ModeloLineas
   QPushButton* cmdCocina = nullptr;
   QPushButton* cmdBarra = nullptr;
 

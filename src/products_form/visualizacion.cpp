@@ -2,10 +2,13 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -16,6 +19,7 @@
 #include "entorno.h"
 #include "error_bd.h"
 #include "estado_formulario.h"
+#include "lector_filas.h"
 #include "recordset.h"
 #include "val.h"
 
@@ -26,10 +30,30 @@ namespace {
 constexpr qint64 kBlanco = 16777215;
 
 QString PrimerCampo(Conexion& conexion, const QString& sentencia, const QString& campo) {
-  Recordset rs(conexion, sentencia);
-  const QString r = rs.recordCount() > 0 ? rs.field(campo).toString() : QString();
-  rs.close();
-  return r;
+  LectorFilas filas(conexion, sentencia);
+  return filas.siguiente() ? filas.field(campo).toString() : QString();
+}
+
+// A picture scaled to fit a box. Walking the catalogue shows the same few pictures again and
+// again: each is decoded and scaled once and then taken from Qt's pixmap cache, under a key that
+// holds the file's time and size, so that a picture changed on disk is read again.
+bool CargarEscalada(const QString& ruta, const QSize& caja, QPixmap& dibujo) {
+  const QFileInfo archivo(ruta);
+  if (!archivo.isFile())
+    return false;
+  const QString clave = u"foto|%1|%2|%3|%4x%5"_s.arg(ruta)
+                            .arg(archivo.lastModified().toMSecsSinceEpoch())
+                            .arg(archivo.size())
+                            .arg(caja.width())
+                            .arg(caja.height());
+  if (QPixmapCache::find(clave, &dibujo))
+    return true;
+  QPixmap original;
+  if (!original.load(ruta))
+    return false;
+  dibujo = original.scaled(caja, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  QPixmapCache::insert(clave, dibujo);
+  return true;
 }
 
 void MarcarSegun(const QVariant& valor, const QList<std::pair<int, QRadioButton*>>& opciones) {
@@ -81,15 +105,15 @@ QString RutaFoto(const QString& carpetaFotos, const QString& archivo) {
 
 void MostrarImagen(QLabel* imagen, const QString& carpetaFotos, const QString& archivo) {
   QPixmap dibujo;
+  const QSize caja = imagen->contentsRect().size();
   QString ruta = RutaFoto(carpetaFotos, archivo);
-  bool cargada = !archivo.trimmed().isEmpty() && dibujo.load(ruta);
+  bool cargada = !archivo.trimmed().isEmpty() && CargarEscalada(ruta, caja, dibujo);
   if (!cargada) {
     ruta = RutaFoto(carpetaFotos, u"defecto.gif"_s);
-    cargada = dibujo.load(ruta);
+    cargada = CargarEscalada(ruta, caja, dibujo);
   }
   if (cargada) {
-    imagen->setPixmap(dibujo.scaled(imagen->contentsRect().size(), Qt::KeepAspectRatio,
-                                    Qt::SmoothTransformation));
+    imagen->setPixmap(dibujo);
   } else {
     imagen->clear();
   }

@@ -128,9 +128,9 @@ QColor ColorMostrado(FormularioPrueba& f, const QString& caja) {
 
 QStringList Lineas(FormularioPrueba& f, const QString& lista) {
   QStringList r;
-  if (auto* l = f.control<QListWidget>(lista)) {
-    for (int i = 0; i < l->count(); ++i)
-      r.append(l->item(i)->text());
+  if (auto* l = f.control<QListView>(lista)) {
+    for (int i = 0; i < l->model()->rowCount(); ++i)
+      r.append(l->model()->index(i, 0).data().toString());
   }
   return r;
 }
@@ -150,12 +150,13 @@ void Escribir(FormularioPrueba& f, const QString& nombre, const QString& texto) 
 }
 
 void TocarLinea(FormularioPrueba& f, const QString& lista, const QString& texto) {
-  auto* l = f.control<QListWidget>(lista);
+  auto* l = f.control<QListView>(lista);
   QVERIFY2(l && l->isVisible(), qPrintable(lista));
-  for (int i = 0; i < l->count(); ++i) {
-    if (l->item(i)->text().startsWith(texto)) {
-      l->scrollToItem(l->item(i));
-      QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualItemRect(l->item(i)).center());
+  for (int i = 0; i < l->model()->rowCount(); ++i) {
+    const QModelIndex linea = l->model()->index(i, 0);
+    if (linea.data().toString().startsWith(texto)) {
+      l->scrollTo(linea);
+      QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualRect(linea).center());
       return;
     }
   }

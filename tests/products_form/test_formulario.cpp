@@ -11,6 +11,7 @@
 #include "color_vb.h"
 #include "colorear.h"
 #include "formulario_prueba.h"
+#include "lineas_productos.h"
 #include "listas_productos.h"
 #include "panel_obj_nuevo.h"
 #include "visualizacion.h"
@@ -106,6 +107,8 @@ class TestFormulario : public QObject {
   void muestraCadaProductoCampoACampo();
   void navegaConSusAvisosYSusTeclas();
   void laListaDeProductos();
+  void soloSeConstruyenLasLineasALaVista_data();
+  void soloSeConstruyenLasLineasALaVista();
   void lasSalidasYElProgramaDePrecios();
   void laImpresoraDeUnProducto();
   void laImpresoraDeUnElaboradoYSuZona();
@@ -457,8 +460,8 @@ void TestFormulario::laListaDeProductos() {
   QCOMPARE(f.dialogos().llamadas().first().titulo, u"ATENCION"_s);
   QCOMPARE(Lineas(f, u"lstProductos"_s).size(), 4);
   // A double touch shows that product and closes the list.
-  auto* lista = f.control<QListWidget>(u"lstProductos"_s);
-  const QRect fila = lista->visualItemRect(lista->item(1));
+  auto* lista = f.control<QListView>(u"lstProductos"_s);
+  const QRect fila = lista->visualRect(lista->model()->index(1, 0));
   QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
   QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
   QTRY_VERIFY(!Visible(f, u"frListaProductos"_s));
@@ -468,6 +471,39 @@ void TestFormulario::laListaDeProductos() {
   Pulsar(f, u"cmd_ListaProd"_s);
   Pulsar(f, u"cmd_salir"_s);
   QVERIFY(f.control<QWidget>(u"frListaProductos"_s)->isHidden());
+}
+
+// A large catalogue's list boxes: every product has its line, exactly as the statement gives it,
+// but only the lines in sight are ever built.
+void TestFormulario::soloSeConstruyenLasLineasALaVista_data() {
+  QTest::addColumn<QStringList>("botones");
+  QTest::addColumn<QString>("lista");
+  QTest::newRow("Lista") << QStringList{u"cmd_ProdGenerico"_s, u"cmd_ListaProd"_s}
+                         << u"lstProductos"_s;
+  QTest::newRow("componentes") << QStringList{u"cmd_ProdElaborado"_s} << u"lb_Productos"_s;
+}
+
+void TestFormulario::soloSeConstruyenLasLineasALaVista() {
+  QFETCH(QStringList, botones);
+  QFETCH(QString, lista);
+  const int n = 3000;
+  FormularioPrueba f(
+      {u"with recursive n(i) as (select 1 union all select i + 1 from n where i < "
+       "%1) insert into productos (codigo, nombre, borrar, tipoprod) select i, "
+       "'Producto ' || substr('000' || i, -4), 0, 1 from n"_s.arg(n)});
+  QVERIFY(f.mostrar());
+  for (const QString& boton : botones)
+    Pulsar(f, boton);
+  auto* vista = f.control<QListView>(lista);
+  vista->viewport()->repaint();
+  const ModeloLineas* modelo = ModeloDe(vista);
+  QVERIFY(modelo && vista->isVisible());
+  QCOMPARE(modelo->rowCount(), n);
+  QVERIFY2(modelo->construidas() > 0 && modelo->construidas() < 100,
+           qPrintable(QString::number(modelo->construidas())));
+  for (int i : {1, n / 2, n})
+    QCOMPARE(modelo->index(i - 1).data().toString(),
+             u"Producto %1"_s.arg(i, 4, 10, QChar(u'0')) + QString(120, u' ') + QString::number(i));
 }
 
 void TestFormulario::lasSalidasYElProgramaDePrecios() {

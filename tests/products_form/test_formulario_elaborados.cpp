@@ -4,7 +4,7 @@
 #include <QDate>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 
 #include "codigos_producto.h"
@@ -95,11 +95,12 @@ void Teclear(FormularioPrueba& f, const QString& campo, const QString& texto, bo
 
 // Takes a line of a list for its quantity: a touch and the arrow, a double touch, or Enter.
 void Elegir(FormularioPrueba& f, const QString& lista, const QString& inicio, bool tacto) {
-  auto* l = f.control<QListWidget>(lista);
+  auto* l = f.control<QListView>(lista);
   if (!tacto) {
     Tabular(l);
     QTest::keyClick(l, Qt::Key_Home);
-    for (int i = 0; i < l->count() && !l->currentItem()->text().startsWith(inicio); ++i)
+    for (int i = 0;
+         i < l->model()->rowCount() && !l->currentIndex().data().toString().startsWith(inicio); ++i)
       QTest::keyClick(l, Qt::Key_Down);
     QTest::keyClick(l, Qt::Key_Return);
   } else {
@@ -108,7 +109,7 @@ void Elegir(FormularioPrueba& f, const QString& lista, const QString& inicio, bo
       Pulsar(f, u"bt_flecha"_s);
     else
       QTest::mouseDClick(l->viewport(), Qt::LeftButton, {},
-                         l->visualItemRect(l->currentItem()).center());
+                         l->visualRect(l->currentIndex()).center());
   }
   QTRY_VERIFY(f.control<QWidget>(u"fr_Cantidad"_s)->isVisible());
 }
