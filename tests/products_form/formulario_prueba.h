@@ -41,6 +41,15 @@ class FormularioPrueba {
   std::unique_ptr<FrmProductos1024> forma_;
 };
 
+// Clicks a dialog's button; with a panel, the panel's nth button.
+inline void Clic(QWidget* dialogo, const QString& nombre, int boton = 0) {
+  if (boton)
+    dialogo = dialogo->findChild<QWidget*>(nombre);
+  QTest::mouseClick(
+      dialogo->findChild<QAbstractButton*>(boton ? QStringLiteral("boton_%1").arg(boton) : nombre),
+      Qt::LeftButton);
+}
+
 // Clicks a button of the form, which must be shown and enabled.
 inline void Pulsar(FormularioPrueba& f, const QString& nombre) {
   auto* b = f.control<QAbstractButton>(nombre);
