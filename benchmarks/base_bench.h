@@ -1,5 +1,7 @@
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <QString>
 #include <QTemporaryDir>
 
@@ -24,4 +26,15 @@ QString CrearBaseBench(Llenar llenar) {
   llenar(c);
   t.confirmar();
   return ruta;
+}
+
+// Runs the program's benchmarks with Google Benchmark's own command line; the Qt application
+// (the SQL drivers are plugins, the dialogs need widgets) must exist already.
+inline int EjecutarBenchmarks(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
 }

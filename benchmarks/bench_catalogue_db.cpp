@@ -147,10 +147,5 @@ BENCHMARK(BM_AdaptarCatalogo)
 
 int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);  // the SQL drivers are plugins
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv))
-    return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
+  return EjecutarBenchmarks(argc, argv);
 }

@@ -154,10 +154,5 @@ BENCHMARK(BM_GrabarReceta5Lineas_Suelo)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);  // the SQL drivers are plugins
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv))
-    return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
+  return EjecutarBenchmarks(argc, argv);
 }
