@@ -113,6 +113,7 @@ Conexion::~Conexion() {
 }
 
 void Conexion::cerrar() {
+  sqlite_ = nullptr;
   if (bd_.isValid()) {
     bd_.close();
     bd_ = QSqlDatabase();
@@ -192,6 +193,7 @@ void Conexion::despuesDeAbrir(const QString& rutaArchivo) {
                                 &FuncionVal, nullptr, nullptr);
         espera_.archivo = QFile::encodeName(rutaArchivo);
         sqlite3_busy_handler(manejador, &EsperarTurno, &espera_);
+        sqlite_ = manejador;
       }
     }
   } else if (driver == u"QPSQL"_s) {
@@ -240,6 +242,25 @@ QSqlQuery Conexion::correr(const QString& texto) {
   if (!q.exec(texto))
     throw ErrorBD(DescripcionError(q.lastError()));
   return q;
+}
+
+sqlite3_stmt* Conexion::prepararEnSQLite(const QString& sentencia) {
+  if (motor_ != Motor::SQLite || !sqlite_)
+    return nullptr;
+  const QByteArray texto = textoParaMotor(sentencia).toUtf8();
+  sqlite3_stmt* preparada = nullptr;
+  const char* resto = nullptr;
+  if (sqlite3_prepare_v2(sqlite_, texto.constData(), static_cast<int>(texto.size()), &preparada,
+                         &resto) != SQLITE_OK) {
+    throw ErrorBD(QString::fromUtf8(sqlite3_errmsg(sqlite_)));
+  }
+  // SQLite prepares the first statement of a text and points at the rest: the rest must be
+  // nothing, as Qt's driver demands too.
+  if (resto && !QByteArray(resto).trimmed().isEmpty()) {
+    sqlite3_finalize(preparada);
+    throw ErrorBD(u"Unable to execute multiple statements at a time"_s);
+  }
+  return preparada;
 }
 
 int Conexion::ejecutar(const QString& sentencia) {

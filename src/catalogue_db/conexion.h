@@ -10,6 +10,9 @@
 #include "dialecto.h"
 #include "origenes_datos.h"
 
+struct sqlite3;
+struct sqlite3_stmt;
+
 // How long a SQLite connection waits for the write lock while the file stands still.
 inline constexpr qint64 kEsperaSQLiteMs = 10000;
 struct EsperaSQLite {
@@ -42,6 +45,10 @@ class Conexion {
   int ejecutar(const QString& sentencia);
   // Runs a statement and leaves the query positioned before its first row.
   QSqlQuery consultar(const QString& sentencia);
+  // On a SQLite connection, the statement adapted, guarded and prepared on SQLite's own handle,
+  // for a reader that steps it itself and reads only the columns it wants (finalize it with
+  // sqlite3_finalize); nullptr on the other engines.
+  sqlite3_stmt* prepararEnSQLite(const QString& sentencia);
   // Runs one of the program's own schema statements without the adapter (DDL cannot be
   // prepared on every engine); still refused when it would run a second statement.
   void ejecutarDirecto(const QString& sentencia);
@@ -74,6 +81,7 @@ class Conexion {
   Motor motor_ = Motor::Access;
   QString rutaPredeterminada_;
   EsperaSQLite espera_;
+  sqlite3* sqlite_ = nullptr;  // SQLite's own handle of a SQLite connection
 };
 
 // A transaction on a connection: rolled back unless confirmed. Given a table name, serialised

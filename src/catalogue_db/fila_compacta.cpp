@@ -7,7 +7,7 @@
 
 namespace {
 
-enum Marca : char { kNulo, kTexto, kEntero64, kEntero, kDoble, kOtro };
+enum Marca : char { kNulo, kTexto, kTextoUtf8, kEntero64, kEntero, kDoble, kOtro };
 
 template <typename T>
 void Escribir(QByteArray& bloque, T valor) {
@@ -32,6 +32,7 @@ qsizetype Largo(const char* p) {
       return 1 + sizeof(qint64);
     case kTexto:
       return 1 + sizeof(qint32) + Leer<qint32>(p + 1) * qsizetype(sizeof(char16_t));
+    case kTextoUtf8:
     case kOtro:
       return 1 + sizeof(qint32) + Leer<qint32>(p + 1);
   }
@@ -48,6 +49,8 @@ QVariant Valor(const char* p) {
       std::memcpy(texto.data(), p + 1 + sizeof(qint32), n * sizeof(char16_t));
       return texto;
     }
+    case kTextoUtf8:
+      return QString::fromUtf8(p + 1 + sizeof(qint32), Leer<qint32>(p + 1));
     case kEntero64:
       return Leer<qint64>(p + 1);
     case kEntero:
@@ -114,6 +117,12 @@ void FilaCompacta::agregar(QByteArray& bloque, const QVariant& valor) {
       bloque.append(otro);
     }
   }
+}
+
+void FilaCompacta::agregarUtf8(QByteArray& bloque, const char* texto, qsizetype largo) {
+  bloque.append(kTextoUtf8);
+  Escribir<qint32>(bloque, static_cast<qint32>(largo));
+  bloque.append(texto, largo);
 }
 
 QVariant FilaCompacta::at(int indice) const {

@@ -61,31 +61,26 @@ void Recordset::abrirCursor() {
                                            QRegularExpression::CaseInsensitiveOption);
     lectura.replace(select, u"select "_s + claveOculta_.join(u", "_s) + u", "_s);
   }
-  cursor_.emplace(conexion_->consultar(lectura));
-  campos_ = cursor_->record();
+  cursor_ = std::make_unique<LectorFilas>(*conexion_, lectura);
+  campos_ = cursor_->campos();
   for (int i = 0; i < claveOculta_.size(); ++i)
     campos_.remove(0);
 }
 
 QList<Recordset::Fila> Recordset::leerCursor() {
+  const std::unique_ptr<LectorFilas> cursor = std::move(cursor_);
   const int ocultas = claveOculta_.size();
-  const int n = campos_.count();
   QList<Fila> leidas;
   QByteArray bloque;
-  while (cursor_->next()) {
+  while (cursor->siguiente()) {
     Fila f;
     for (int i = 0; i < ocultas; ++i)
-      f.clave.append(cursor_->value(i));
+      f.clave.append(cursor->valor(i));
     bloque.resize(0);  // keeps its capacity for the next row
-    for (int i = 0; i < n; ++i)
-      FilaCompacta::agregar(bloque, cursor_->value(ocultas + i));
+    cursor->agregarFila(bloque, ocultas);
     f.valores = FilaCompacta::deBloque(bloque);
     leidas.append(std::move(f));
   }
-  const QSqlError error = cursor_->lastError();
-  cursor_.reset();
-  if (error.isValid())
-    throw ErrorBD(DescripcionError(error));
   return leidas;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <optional>
-#include <type_traits>
+#include <memory>
 
 #include <QHash>
 #include <QList>
@@ -11,6 +10,7 @@
 
 #include "conexion.h"
 #include "fila_compacta.h"
+#include "lector_filas.h"
 
 // A static recordset, as the suite's programs open them: the rows of a statement are read once
 // into memory and walked with the current-row moves; fields are read by name (ignoring letter
@@ -66,8 +66,6 @@ class Recordset {
     QList<QVariant> clave;  // the hidden key columns' values, see claveOculta_
   };
 
-  // What a query of the connection is (the one place that runs the statement: abrirCursor()).
-  using Cursor = std::invoke_result_t<decltype(&Conexion::consultar), Conexion&, const QString&>;
   enum class Lectura {
     Pendiente,  // the statement ran; its rows are still in the cursor
     Leida,      // every row is in filas_
@@ -100,7 +98,7 @@ class Recordset {
   QList<Fila> filas_;
   int vivas_ = 0;  // rows of filas_ not deleted
   Lectura lectura_ = Lectura::Leida;
-  std::optional<Cursor> cursor_;
+  std::unique_ptr<LectorFilas> cursor_;  // the statement's rows, while Pendiente
   bool actualAgregada_ = false;  // while SinLeer: the current row is one this recordset added
   mutable QHash<QString, int> indices_;  // field names as callers spell them
   int posicion_ = 0;                     // -1: BOF; filas_.size(): EOF

@@ -311,10 +311,17 @@ void TestMotores::catalogoDeSentencias() {
         c.ejecutar(v.texto);
         continue;
       }
-      for (Recordset rs(c, v.texto); !rs.eof(); rs.moveNext()) {
-        for (int i = 0; i < rs.fieldCount(); ++i)
-          rs.field(i);
+      // Each value as the engine's Qt driver gives it, type included, however the rows are read.
+      Recordset rs(c, v.texto);
+      QSqlQuery q = c.consultar(v.texto);
+      for (; !rs.eof(); rs.moveNext()) {
+        QVERIFY(q.next());
+        for (int i = 0; i < rs.fieldCount(); ++i) {
+          QCOMPARE(rs.field(i).metaType(), q.value(i).metaType());
+          QCOMPARE(rs.field(i), q.value(i));
+        }
       }
+      QVERIFY2(!q.next(), qPrintable(v.id));
     } catch (const ErrorBD& e) {
       QFAIL(qPrintable(u"%1 failed: %2\n%3"_s.arg(v.id, e.descripcion(), v.texto)));
     }
