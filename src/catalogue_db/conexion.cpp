@@ -7,14 +7,18 @@
 #include <unistd.h>
 
 #include <QAtomicInt>
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSqlDriver>
 #include <QSqlError>
+#include <QTimer>
 
 #include "error_bd.h"
 #include "postgres_nativo.h"
+#include "recordset.h"
 #include "val.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -113,6 +117,7 @@ Conexion::~Conexion() {
 }
 
 void Conexion::cerrar() {
+  terminarLecturas();
   sqlite_ = nullptr;
   if (bd_.isValid()) {
     bd_.close();
@@ -264,6 +269,7 @@ sqlite3_stmt* Conexion::prepararEnSQLite(const QString& sentencia) {
 }
 
 int Conexion::ejecutar(const QString& sentencia) {
+  terminarLecturas();
   return correr(textoParaMotor(sentencia)).numRowsAffected();
 }
 
@@ -273,11 +279,13 @@ QSqlQuery Conexion::consultar(const QString& sentencia) {
 
 void Conexion::ejecutarDirecto(const QString& sentencia) {
   comprobarUnaSentencia(sentencia);
+  terminarLecturas();
   correr(sentencia);
 }
 
 int Conexion::ejecutar(const QString& sentencia, const QList<QVariant>& valores) {
   comprobarUnaSentencia(sentencia);
+  terminarLecturas();
   if (EsPostgresNativo(bd_)) {
     // The program's own text has its "?" marks only where values go.
     QString texto;
@@ -299,6 +307,7 @@ int Conexion::ejecutar(const QString& sentencia, const QList<QVariant>& valores)
 void Conexion::comenzarTransaccion(const QString& serializarEn) {
   if (!abierta())
     throw ErrorBD(u"La conexión con la base de datos no está abierta"_s);
+  terminarLecturas();
   if (motor_ == Motor::SQLite) {
     // Every transaction of the program writes. Deferred, it would read first and then find the
     // file locked by another writer, which SQLite reports at once instead of waiting; immediate,
@@ -327,12 +336,59 @@ void Conexion::comenzarTransaccion(const QString& serializarEn) {
   }
 }
 void Conexion::confirmarTransaccion() {
+  terminarLecturas();
   if (!bd_.commit())
     throw ErrorBD(DescripcionError(bd_.lastError()));
 }
 
 void Conexion::deshacerTransaccion() {
+  try {
+    terminarLecturas();
+  } catch (const ErrorBD&) {
+    // a recordset that cannot read its rows says so when it is next walked
+  }
   bd_.rollback();
+}
+
+void Conexion::anotarLectura(Recordset* recordset) {
+  lecturas_.insert(recordset);
+  if (pausaPedida_ || !QCoreApplication::instance())
+    return;
+  pausaPedida_ = true;
+  QMetaObject::invokeMethod(
+      &contexto_, [this] { leerEnPausa(); }, Qt::QueuedConnection);
+}
+
+void Conexion::olvidarLectura(Recordset* recordset) {
+  lecturas_.remove(recordset);
+}
+
+void Conexion::terminarLecturas() {
+  while (!lecturas_.isEmpty())
+    (*lecturas_.begin())->leerFilas();
+}
+
+// One slice of reading, a few milliseconds long, then the program's other events: the rows come
+// in while nobody waits for them, and a click is answered between two slices.
+void Conexion::leerEnPausa() {
+  constexpr qint64 kRebanadaMs = 4;
+  constexpr int kFilasPorVez = 256;
+  pausaPedida_ = false;
+  QElapsedTimer reloj;
+  reloj.start();
+  while (!lecturas_.isEmpty() && !reloj.hasExpired(kRebanadaMs)) {
+    Recordset* rs = *lecturas_.begin();
+    try {
+      rs->leerMas(kFilasPorVez);
+    } catch (const ErrorBD&) {
+      // The failure stays with the cursor: the recordset reports it when it is next walked.
+      olvidarLectura(rs);
+    }
+  }
+  if (!lecturas_.isEmpty()) {
+    pausaPedida_ = true;
+    QTimer::singleShot(0, &contexto_, [this] { leerEnPausa(); });
+  }
 }
 
 Transaccion::Transaccion(Conexion& conexion, const QString& serializarEn) : conexion_(conexion) {

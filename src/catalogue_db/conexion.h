@@ -2,6 +2,8 @@
 
 #include <QElapsedTimer>
 #include <QList>
+#include <QObject>
+#include <QSet>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
@@ -10,6 +12,7 @@
 #include "dialecto.h"
 #include "origenes_datos.h"
 
+class Recordset;
 struct sqlite3;
 struct sqlite3_stmt;
 
@@ -69,12 +72,21 @@ class Conexion {
   void confirmarTransaccion();
   void deshacerTransaccion();
 
+  // Recordsets read as far as they are walked (see recordset.h) are noted here: before the
+  // connection writes, they read the rest of their rows; while the program is idle, they read
+  // them a slice at a time, so that no statement stays open long.
+  void anotarLectura(Recordset* recordset);
+  void olvidarLectura(Recordset* recordset);
+  bool hayLecturasPendientes() const { return !lecturas_.isEmpty(); }
+  void terminarLecturas();
+
  private:
   QString textoParaMotor(const QString& sentencia) const;
   void comprobarUnaSentencia(const QString& texto) const;
   QSqlQuery correr(const QString& texto);
   void despuesDeAbrir(const QString& rutaArchivo);
   void fallar(const QString& descripcion);
+  void leerEnPausa();
 
   QString nombre_;
   QSqlDatabase bd_;
@@ -82,6 +94,9 @@ class Conexion {
   QString rutaPredeterminada_;
   EsperaSQLite espera_;
   sqlite3* sqlite_ = nullptr;  // SQLite's own handle of a SQLite connection
+  QSet<Recordset*> lecturas_;
+  bool pausaPedida_ = false;
+  QObject contexto_;  // the idle reading's calls go with the connection
 };
 
 // A transaction on a connection: rolled back unless confirmed. Given a table name, serialised

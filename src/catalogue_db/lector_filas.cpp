@@ -82,15 +82,27 @@ LectorFilas::~LectorFilas() {
 
 bool LectorFilas::siguiente() {
   if (sqlite_) {
+    // A statement stepped again after its end or a failure would run again from its start.
+    if (!fallo_.isEmpty())
+      throw ErrorBD(fallo_);
+    if (terminado_)
+      return false;
     const int paso = primerPaso_ ? std::exchange(primerPaso_, 0) : sqlite3_step(sqlite_);
-    if (paso == SQLITE_ROW)
+    if (paso == SQLITE_ROW) {
+      ++filasLeidas_;
       return true;
-    if (paso != SQLITE_DONE)
-      FallarSQLite(sqlite_);
+    }
+    terminado_ = true;
+    if (paso != SQLITE_DONE) {
+      fallo_ = QString::fromUtf8(sqlite3_errmsg(sqlite3_db_handle(sqlite_)));
+      throw ErrorBD(fallo_);
+    }
     return false;
   }
-  if (filas_.next())
+  if (filas_.next()) {
+    ++filasLeidas_;
     return true;
+  }
   if (filas_.lastError().isValid())
     throw ErrorBD(DescripcionError(filas_.lastError()));
   return false;

@@ -36,12 +36,19 @@ class LectorFilas {
   // Appends the current row's fields, from the given column on, to a compact row being built.
   void agregarFila(QByteArray& bloque, int desde) const;
 
+  // The rows that every reader of the program has taken off its cursor so far: what a screen
+  // costs the database, whatever the clock says.
+  static qint64 filasLeidas() { return filasLeidas_; }
+
  private:
   int indice(const QString& nombre) const;
 
   sqlite3_stmt* sqlite_ = nullptr;  // on SQLite, the statement; else the query below
   int primerPaso_ = 0;  // SQLite's answer to the step that ran the statement, until read
+  bool terminado_ = false;
+  QString fallo_;  // SQLite's description of the step that failed
   QSqlQuery filas_;
   QSqlRecord campos_;
   mutable QHash<QString, int> indices_;  // field names as callers spell them
+  static inline qint64 filasLeidas_ = 0;
 };

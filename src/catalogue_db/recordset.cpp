@@ -36,6 +36,10 @@ Recordset::Recordset(Conexion& conexion, const QString& sentencia)
   leer();
 }
 
+Recordset::~Recordset() {
+  conexion_->olvidarLectura(this);
+}
+
 void Recordset::leer() {
   tabla_ = TablaDeSentencia(sentencia_);
   claveOculta_ = claveQueFalta();
@@ -52,6 +56,12 @@ void Recordset::leer() {
   // statement, so there the rows are read while they are there.
   if (conexion_->motor() == Motor::PostgreSQL)
     leerFilas();
+  else if (porPartes())
+    conexion_->anotarLectura(this);
+}
+
+bool Recordset::porPartes() const {
+  return conexion_->motor() == Motor::SQLite;
 }
 
 void Recordset::abrirCursor() {
@@ -67,38 +77,64 @@ void Recordset::abrirCursor() {
     campos_.remove(0);
 }
 
-QList<Recordset::Fila> Recordset::leerCursor() {
-  const std::unique_ptr<LectorFilas> cursor = std::move(cursor_);
+bool Recordset::leerCursor(QList<Fila>& leidas, int hasta) {
   const int ocultas = claveOculta_.size();
-  QList<Fila> leidas;
   QByteArray bloque;
-  while (cursor->siguiente()) {
+  while (hasta < 0 || leidas.size() <= hasta) {
+    if (!cursor_->siguiente()) {
+      cursor_.reset();
+      conexion_->olvidarLectura(this);
+      return true;
+    }
     Fila f;
     for (int i = 0; i < ocultas; ++i)
-      f.clave.append(cursor->valor(i));
+      f.clave.append(cursor_->valor(i));
     bloque.resize(0);  // keeps its capacity for the next row
-    cursor->agregarFila(bloque, ocultas);
+    cursor_->agregarFila(bloque, ocultas);
     f.valores = FilaCompacta::deBloque(bloque);
     leidas.append(std::move(f));
   }
-  return leidas;
+  return false;
+}
+
+void Recordset::leerHasta(int indice) {
+  if (lectura_ != Lectura::Pendiente || indice < filas_.size())
+    return;
+  if (!porPartes()) {
+    leerFilas();
+    return;
+  }
+  // While the cursor is open no row is deleted: every write on the connection reads the rest
+  // first.
+  const qsizetype antes = filas_.size();
+  const bool terminada = leerCursor(filas_, indice);
+  vivas_ += filas_.size() - antes;
+  if (terminada)
+    lectura_ = Lectura::Leida;
+}
+
+void Recordset::leerMas(int filas) {
+  leerHasta(static_cast<int>(filas_.size()) + filas - 1);
 }
 
 void Recordset::leerFilas() {
   if (lectura_ == Lectura::Leida)
     return;
   if (lectura_ == Lectura::Pendiente) {
-    filas_ = leerCursor();
-    vivas_ = filas_.size();
+    const qsizetype antes = filas_.size();
+    leerCursor(filas_, -1);
+    vivas_ += filas_.size() - antes;
     lectura_ = Lectura::Leida;
     return;
   }
   // Rows were added before any was read: the statement runs again, and the rows this recordset
   // added come from memory, after the ones that were there before, as if read at the start.
   abrirCursor();
+  QList<Fila> leidas;
+  leerCursor(leidas, -1);
   QList<Fila> antes;
   QList<bool> hallada(filas_.size(), false);
-  for (Fila& leida : leerCursor()) {
+  for (Fila& leida : leidas) {
     bool propia = false;
     for (int i = 0; i < filas_.size() && !propia; ++i) {
       propia = !hallada.at(i) && !filas_.at(i).borrada && mismaFila(leida, filas_.at(i));
@@ -132,12 +168,17 @@ bool Recordset::mismaFila(const Fila& leida, const Fila& agregada) const {
 bool Recordset::hayVivas() const {
   if (vivas_ > 0)
     return true;
+  leerHasta(0);
+  if (vivas_ > 0)
+    return true;
   leerFilas();
   return vivas_ > 0;
 }
 
 void Recordset::asegurarActual() const {
-  if (lectura_ != Lectura::SinLeer || !actualAgregada_)
+  if (lectura_ == Lectura::Pendiente)
+    leerHasta(posicion_);
+  else if (lectura_ != Lectura::SinLeer || !actualAgregada_)
     leerFilas();
 }
 
@@ -204,8 +245,7 @@ void Recordset::moveFirst() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
-  leerFilas();
-  if (vivas_ == 0)
+  if (!hayVivas())
     throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(0, 1);
 }
@@ -224,7 +264,7 @@ void Recordset::moveNext() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
-  leerFilas();
+  leerHasta(posicion_ + 1);
   // Only EOF itself (or a set that never had a row) has no next row: from a row just deleted,
   // even the last one, the move goes on to EOF, as the delete-while-walking loops expect.
   if (posicion_ >= filas_.size())
@@ -236,7 +276,7 @@ void Recordset::movePrevious() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
-  leerFilas();
+  leerHasta(0);
   if (posicion_ < 0 || filas_.isEmpty())
     throw ErrorBD(kSinFilaActual);
   posicion_ = siguienteViva(posicion_ - 1, -1);
@@ -291,10 +331,13 @@ void Recordset::addNew() {
   comprobarAbierto();
   if (edicion_ != Edicion::Ninguna)
     update();
-  if (lectura_ == Lectura::Pendiente) {
+  if (lectura_ == Lectura::Pendiente && filas_.isEmpty()) {
     // Nothing was read: the rows are left in the table until something asks for them.
     cursor_.reset();
+    conexion_->olvidarLectura(this);
     lectura_ = Lectura::SinLeer;
+  } else if (lectura_ == Lectura::Pendiente) {
+    leerFilas();
   }
   edicion_ = Edicion::Nueva;
   buffer_ = QList<QVariant>(campos_.count());
@@ -500,6 +543,7 @@ void Recordset::requery() {
 void Recordset::close() {
   abierto_ = false;
   cursor_.reset();
+  conexion_->olvidarLectura(this);
   lectura_ = Lectura::Leida;
   filas_.clear();
   vivas_ = 0;

@@ -23,11 +23,17 @@
 // Rows are read when first needed, not when the statement runs: a recordset opened only to add
 // rows ("select * from productos", then addNew) never copies the table. Should such a recordset
 // be walked afterwards, the statement is read then, and the rows it added are taken from memory.
-// On PostgreSQL the rows are read as the statement runs: its driver drops a result that is not
-// read before the connection runs another statement.
+// On SQLite they are read as far as the moves go (showing the first row reads one row), and the
+// rest before the connection writes anything or while the program is idle: the rows are those of
+// the moment the statement ran, as if read at once. On PostgreSQL the rows are read as the
+// statement runs: its driver drops a result that is not read before the connection runs another
+// statement.
 class Recordset {
  public:
   Recordset(Conexion& conexion, const QString& sentencia);
+  ~Recordset();
+  Recordset(const Recordset&) = delete;
+  Recordset& operator=(const Recordset&) = delete;
 
   int recordCount() const;
   bool bof() const;
@@ -67,17 +73,24 @@ class Recordset {
   };
 
   enum class Lectura {
-    Pendiente,  // the statement ran; its rows are still in the cursor
+    Pendiente,  // the statement ran; filas_ holds the rows read so far, the rest are in the cursor
     Leida,      // every row is in filas_
     SinLeer,    // rows were added before any was read: filas_ holds those rows alone
   };
 
+  friend class Conexion;  // reads the rest of the rows before it writes, and while idle
+  bool porPartes() const;
   void leer();
   void abrirCursor();
-  QList<Fila> leerCursor();
+  // Moves rows from the cursor to the list until it holds the given position (-1: all of them);
+  // true when the cursor has given its last row, and is closed.
+  bool leerCursor(QList<Fila>& leidas, int hasta);
   void leerFilas();
+  void leerHasta(int indice);
+  void leerMas(int filas);
   // Reading rows fills a cache: the recordset's contents do not change.
   void leerFilas() const { const_cast<Recordset*>(this)->leerFilas(); }
+  void leerHasta(int indice) const { const_cast<Recordset*>(this)->leerHasta(indice); }
   bool mismaFila(const Fila& leida, const Fila& agregada) const;
   bool hayVivas() const;
   void asegurarActual() const;  // reads the rows unless the current one is an added row

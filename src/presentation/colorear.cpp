@@ -299,21 +299,24 @@ QString Colorear::esquemaTerminal() {
 
 QString Colorear::ObtenerColor(qint16 idColor) {
   Conexion& c = *entorno_.ConexionBD;
-  Recordset rs(c, u"select * from colores where id_color = "_s + QString::number(idColor));
-  if (rs.recordCount() == 0) {
+  const auto esquema = [](Recordset& rs) {
+    QStringList colores;
+    for (int i = 1; i <= kColumnasEsquema; ++i)
+      colores.append(rs.field(i).toString());
     rs.close();
-    rs = Recordset(c, u"select * from colores"_s);
-    if (rs.recordCount() == 0) {
-      rs.close();
-      return {};
-    }
-    rs.moveFirst();
-  }
-  QStringList colores;
-  for (int i = 1; i <= kColumnasEsquema; ++i)
-    colores.append(rs.field(i).toString());
+    return colores.join(u'|');
+  };
+  Recordset rs(c, u"select * from colores where id_color = "_s + QString::number(idColor));
+  if (rs.recordCount() > 0)
+    return esquema(rs);
   rs.close();
-  return colores.join(u'|');
+  Recordset todos(c, u"select * from colores"_s);
+  if (todos.recordCount() == 0) {
+    todos.close();
+    return {};
+  }
+  todos.moveFirst();
+  return esquema(todos);
 }
 
 QString Colorear::elemento(int indice) {

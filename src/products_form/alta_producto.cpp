@@ -21,7 +21,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 bool MoverACodigo(Recordset& productos, const QString& codigo) {
-  if (productos.recordCount() < 1)
+  if (productos.bof() && productos.eof())
     return false;
   for (productos.moveFirst(); !productos.eof(); productos.moveNext()) {
     if (productos.field(u"codigo"_s).toString() == codigo)

@@ -42,5 +42,6 @@ struct EstadoFormulario {
   QColor colorFoco;
   QColor colorCampo;
 
-  bool hayProductos() const { return productos && productos->recordCount() > 0; }
+  // Whether the list has a product, without counting them (which reads every row).
+  bool hayProductos() const { return productos && !(productos->bof() && productos->eof()); }
 };

@@ -11,6 +11,7 @@
 #include "color_vb.h"
 #include "colorear.h"
 #include "formulario_prueba.h"
+#include "lector_filas.h"
 #include "lineas_productos.h"
 #include "listas_productos.h"
 #include "panel_obj_nuevo.h"
@@ -109,6 +110,7 @@ class TestFormulario : public QObject {
   void laListaDeProductos();
   void soloSeConstruyenLasLineasALaVista_data();
   void soloSeConstruyenLasLineasALaVista();
+  void loQueSeLeeNoCreceConElCatalogo();
   void lasSalidasYElProgramaDePrecios();
   void laImpresoraDeUnProducto();
   void laImpresoraDeUnElaboradoYSuZona();
@@ -483,14 +485,17 @@ void TestFormulario::soloSeConstruyenLasLineasALaVista_data() {
   QTest::newRow("componentes") << QStringList{u"cmd_ProdElaborado"_s} << u"lb_Productos"_s;
 }
 
+QString CatalogoDe(int n) {
+  return u"with recursive n(i) as (select 1 union all select i + 1 from n where i < %1) insert "
+         "into productos (codigo, nombre, borrar, tipoprod) select i, 'Producto ' || "
+         "substr('000' || i, -4), 0, 1 from n"_s.arg(n);
+}
+
 void TestFormulario::soloSeConstruyenLasLineasALaVista() {
   QFETCH(QStringList, botones);
   QFETCH(QString, lista);
   const int n = 3000;
-  FormularioPrueba f(
-      {u"with recursive n(i) as (select 1 union all select i + 1 from n where i < "
-       "%1) insert into productos (codigo, nombre, borrar, tipoprod) select i, "
-       "'Producto ' || substr('000' || i, -4), 0, 1 from n"_s.arg(n)});
+  FormularioPrueba f({CatalogoDe(n)});
   QVERIFY(f.mostrar());
   for (const QString& boton : botones)
     Pulsar(f, boton);
@@ -504,6 +509,25 @@ void TestFormulario::soloSeConstruyenLasLineasALaVista() {
   for (int i : {1, n / 2, n})
     QCOMPARE(modelo->index(i - 1).data().toString(),
              u"Producto %1"_s.arg(i, 4, 10, QChar(u'0')) + QString(120, u' ') + QString::number(i));
+}
+
+// The rows read to show the first product and the next do not grow with the catalogue (the rest
+// come in while the form is idle); the last product costs one pass over the list.
+void TestFormulario::loQueSeLeeNoCreceConElCatalogo() {
+  QList<QList<qint64>> filas;
+  for (const int n : {400, 4000}) {
+    FormularioPrueba f({CatalogoDe(n)});
+    QVERIFY(f.mostrar());
+    QList<qint64> porAccion;
+    for (const QString& boton : {u"cmd_ProdGenerico"_s, u"bt_botones_2"_s, u"bt_botones_3"_s}) {
+      const qint64 antes = LectorFilas::filasLeidas();
+      Pulsar(f, boton);
+      porAccion.append(LectorFilas::filasLeidas() - antes);
+    }
+    filas.append(porAccion);
+  }
+  QCOMPARE(filas[1].first(2), filas[0].first(2));
+  QVERIFY2(filas[1][2] < 11 * filas[0][2], qPrintable(QString::number(filas[1][2])));
 }
 
 void TestFormulario::lasSalidasYElProgramaDePrecios() {
