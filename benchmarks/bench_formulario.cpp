@@ -348,6 +348,7 @@ void Correr(const QString& cache, int n, std::vector<Fila>& filas, std::vector<l
   }
   for (int i = 0; i < reps; ++i) {
     b.medir(m(9), [&] { b.pulsar(u"cmd_ListaProd"_s); });
+    b.pausa();
     if (b.control<QListView>(u"lstProductos"_s)->model()->rowCount() < n / 2)
       throw std::runtime_error("la lista no se llenó");
     b.pulsar(u"cmd_ListaProd"_s);

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "esquema.h"
 #include "instalacion_demo.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -132,7 +133,10 @@ bool CopiarCarpeta(const QString& origen, const QString& destino) {
 
 QString CatalogoEnCache(const QString& cache, int n) {
   const QString carpeta = QDir(cache).filePath(u"catalogo-%1"_s.arg(n));
-  const QString hecho = QDir(carpeta).filePath(u"catalogo-completo"_s);
+  // The mark names the schema: a catalogue made on another schema is made again.
+  const QString esquema = SentenciasCrearEsquema(TablasPrincipales(), Motor::SQLite).join(u'\n');
+  const QString hecho =
+      QDir(carpeta).filePath(u"catalogo-completo-%1"_s.arg(qHash(esquema), 0, 16));
   if (QFile::exists(hecho))
     return carpeta;
   QDir(carpeta).removeRecursively();

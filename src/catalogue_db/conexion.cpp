@@ -18,7 +18,6 @@
 
 #include "error_bd.h"
 #include "postgres_nativo.h"
-#include "recordset.h"
 #include "val.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -342,16 +341,12 @@ void Conexion::confirmarTransaccion() {
 }
 
 void Conexion::deshacerTransaccion() {
-  try {
-    terminarLecturas();
-  } catch (const ErrorBD&) {
-    // a recordset that cannot read its rows says so when it is next walked
-  }
+  terminarLecturas();
   bd_.rollback();
 }
 
-void Conexion::anotarLectura(Recordset* recordset) {
-  lecturas_.insert(recordset);
+void Conexion::anotarLectura(LecturaPendiente* lectura) {
+  lecturas_.insert(lectura);
   if (pausaPedida_ || !QCoreApplication::instance())
     return;
   pausaPedida_ = true;
@@ -359,13 +354,21 @@ void Conexion::anotarLectura(Recordset* recordset) {
       &contexto_, [this] { leerEnPausa(); }, Qt::QueuedConnection);
 }
 
-void Conexion::olvidarLectura(Recordset* recordset) {
-  lecturas_.remove(recordset);
+void Conexion::olvidarLectura(LecturaPendiente* lectura) {
+  lecturas_.remove(lectura);
 }
 
 void Conexion::terminarLecturas() {
-  while (!lecturas_.isEmpty())
-    (*lecturas_.begin())->leerFilas();
+  while (!lecturas_.isEmpty()) {
+    LecturaPendiente* lectura = *lecturas_.begin();
+    try {
+      lectura->terminarLectura();
+    } catch (const ErrorBD&) {
+      // The failure stays with the reader, which reports it when it is next read: the write
+      // that comes now has nothing to do with it.
+      olvidarLectura(lectura);
+    }
+  }
 }
 
 // One slice of reading, a few milliseconds long, then the program's other events: the rows come
@@ -377,12 +380,11 @@ void Conexion::leerEnPausa() {
   QElapsedTimer reloj;
   reloj.start();
   while (!lecturas_.isEmpty() && !reloj.hasExpired(kRebanadaMs)) {
-    Recordset* rs = *lecturas_.begin();
+    LecturaPendiente* lectura = *lecturas_.begin();
     try {
-      rs->leerMas(kFilasPorVez);
+      lectura->leerMas(kFilasPorVez);
     } catch (const ErrorBD&) {
-      // The failure stays with the cursor: the recordset reports it when it is next walked.
-      olvidarLectura(rs);
+      olvidarLectura(lectura);  // as in terminarLecturas()
     }
   }
   if (!lecturas_.isEmpty()) {

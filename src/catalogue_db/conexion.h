@@ -12,7 +12,6 @@
 #include "dialecto.h"
 #include "origenes_datos.h"
 
-class Recordset;
 struct sqlite3;
 struct sqlite3_stmt;
 
@@ -22,6 +21,20 @@ struct EsperaSQLite {
   QByteArray archivo;
   qint64 marca = 0;  // the file's last modification time seen, in nanoseconds
   QElapsedTimer reloj;
+};
+
+// A reader whose rows are still partly in its cursor (a recordset, a list box filling): it reads
+// the rest before its connection writes, and a slice at a time while the program is idle.
+class LecturaPendiente {
+ public:
+  // Reads up to the given number of rows more; a reader whose cursor has given its last row
+  // leaves the connection's notes (olvidarLectura).
+  virtual void leerMas(int filas) = 0;
+  // Reads every row left.
+  virtual void terminarLectura() = 0;
+
+ protected:
+  ~LecturaPendiente() = default;
 };
 
 // One open database connection, as the suite's programs hold it: opened from a connection
@@ -72,11 +85,12 @@ class Conexion {
   void confirmarTransaccion();
   void deshacerTransaccion();
 
-  // Recordsets read as far as they are walked (see recordset.h) are noted here: before the
-  // connection writes, they read the rest of their rows; while the program is idle, they read
-  // them a slice at a time, so that no statement stays open long.
-  void anotarLectura(Recordset* recordset);
-  void olvidarLectura(Recordset* recordset);
+  // Readers that read their rows as far as they are needed are noted here: before the
+  // connection writes, they read the rest of their rows, so that what they read is what the
+  // database held when their statement ran; while the program is idle, they read them a slice
+  // at a time, so that no statement stays open long.
+  void anotarLectura(LecturaPendiente* lectura);
+  void olvidarLectura(LecturaPendiente* lectura);
   bool hayLecturasPendientes() const { return !lecturas_.isEmpty(); }
   void terminarLecturas();
 
@@ -94,7 +108,7 @@ class Conexion {
   QString rutaPredeterminada_;
   EsperaSQLite espera_;
   sqlite3* sqlite_ = nullptr;  // SQLite's own handle of a SQLite connection
-  QSet<Recordset*> lecturas_;
+  QSet<LecturaPendiente*> lecturas_;
   bool pausaPedida_ = false;
   QObject contexto_;  // the idle reading's calls go with the connection
 };

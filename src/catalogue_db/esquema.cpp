@@ -48,7 +48,10 @@ QList<Tabla> CrearTablasPrincipales() {
              En(u"impresora"_s),
              Bo(u"productoespecial"_s),
              Bo(u"Borrar"_s)},
-            {u"codigo"_s}});
+            {u"codigo"_s},
+            // The lists go by name, so that the first rows come without sorting the catalogue;
+            // the till's panels go by family.
+            {u"nombre"_s, u"seccion"_s}});
   t.append({u"stock"_s,
             {{u"Producto"_s, T::Entero, true},
              Do(u"Stock"_s),
@@ -65,7 +68,8 @@ QList<Tabla> CrearTablasPrincipales() {
             {u"producto"_s}});
   t.append({u"productoElaborado_producto"_s,
             {{u"productopadre"_s, T::Texto, true}, Tx(u"productohijo"_s), Do(u"cantidad"_s)},
-            {}});
+            {},
+            {u"productopadre"_s}});
   t.append({u"subproductos"_s, {Tx(u"CodProductoPadre"_s), Tx(u"CodProductoHijo"_s)}, {}});
   t.append({u"impresoras"_s, {{u"codigo"_s, T::Entero, true}, Tx(u"nombre"_s)}, {u"codigo"_s}});
   t.append({u"seccion"_s,

@@ -28,7 +28,7 @@
 // the moment the statement ran, as if read at once. On PostgreSQL the rows are read as the
 // statement runs: its driver drops a result that is not read before the connection runs another
 // statement.
-class Recordset {
+class Recordset : private LecturaPendiente {
  public:
   Recordset(Conexion& conexion, const QString& sentencia);
   ~Recordset();
@@ -78,7 +78,6 @@ class Recordset {
     SinLeer,    // rows were added before any was read: filas_ holds those rows alone
   };
 
-  friend class Conexion;  // reads the rest of the rows before it writes, and while idle
   bool porPartes() const;
   void leer();
   void abrirCursor();
@@ -87,7 +86,8 @@ class Recordset {
   bool leerCursor(QList<Fila>& leidas, int hasta);
   void leerFilas();
   void leerHasta(int indice);
-  void leerMas(int filas);
+  void leerMas(int filas) override;
+  void terminarLectura() override { leerFilas(); }
   // Reading rows fills a cache: the recordset's contents do not change.
   void leerFilas() const { const_cast<Recordset*>(this)->leerFilas(); }
   void leerHasta(int indice) const { const_cast<Recordset*>(this)->leerHasta(indice); }

@@ -1,9 +1,15 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
 #include <QAbstractListModel>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include "conexion.h"
+#include "lector_filas.h"
 
 class QAbstractItemView;
 
@@ -14,6 +20,7 @@ class QAbstractItemView;
 class LineasProductos {
  public:
   void anadir(const QString& nombre, const QString& codigo);
+  void anadir(const LineasProductos& otras);
   void quitar(qsizetype fila);
 
   qsizetype size() const { return tramos_.size(); }
@@ -36,16 +43,26 @@ class LineasProductos {
 
 // A product list box's model: one row per line, whose text (the display role) is built when a
 // view asks for it, that is, for the lines on the screen.
-class ModeloLineas : public QAbstractListModel {
+//
+// Its lines are those of a statement's rows (their "nombre" and "codigo" fields). On SQLite the
+// first screenful is read at once and the rest come in as the connection's other pending reads
+// do (see Conexion::anotarLectura): while the program is idle, or all at once before it writes.
+class ModeloLineas : public QAbstractListModel, private LecturaPendiente {
   Q_OBJECT
 
  public:
   using QAbstractListModel::QAbstractListModel;
+  ~ModeloLineas() override;
 
-  // Replaces every line.
-  void poner(LineasProductos lineas);
+  // Replaces every line with those of the statement's rows, unless it has none and the lines
+  // are to be kept then; false when it has none. A failure to run the statement is thrown
+  // (ErrorBD) with the lines left as they were; one while reading the rest goes to alFallar,
+  // with the lines read so far left in the list.
+  bool leer(Conexion& conexion, const QString& sentencia,
+            std::function<void(const QString&)> alFallar, bool conservarSiNoHay = false);
   void quitar(int fila);
-  const LineasProductos& lineas() const { return lineas_; }
+  // Every line, the rest of them read first.
+  const LineasProductos& lineas();
   // How many line texts have been built since the model was made.
   qint64 construidas() const { return construidas_; }
 
@@ -53,8 +70,15 @@ class ModeloLineas : public QAbstractListModel {
   QVariant data(const QModelIndex& indice, int rol = Qt::DisplayRole) const override;
 
  private:
+  void leerMas(int filas) override;
+  void terminarLectura() override { leerMas(-1); }
+  void cerrarLectura();
+
   LineasProductos lineas_;
   mutable qint64 construidas_ = 0;
+  std::unique_ptr<LectorFilas> lector_;  // while lines are still to come
+  Conexion* conexion_ = nullptr;
+  std::function<void(const QString&)> alFallar_;
 };
 
 // The model of a list box made with CrearListaLineas; nullptr for any other view.

@@ -36,12 +36,9 @@ bool ListaProductosForm::eventFilter(QObject* objeto, QEvent* evento) {
   return QObject::eventFilter(objeto, evento);
 }
 
-void ListaProductosForm::llenar(std::optional<LineasProductos> lineas) {
-  MarcosAuxiliares& m = c_.marcos;
-  if (!lineas)
-    return;
-  ModeloDe(m.lstProductos)->poner(std::move(*lineas));
-  MostrarMarco(m.frListaProductos);
+void ListaProductosForm::llenar(bool hayLista) {
+  if (hayLista)
+    MostrarMarco(c_.marcos.frListaProductos);
 }
 
 void ListaProductosForm::cmd_ListaProdClick() {
@@ -49,11 +46,11 @@ void ListaProductosForm::cmd_ListaProdClick() {
     c_.marcos.frListaProductos->hide();
     return;
   }
-  llenar(LeerListaProductos(entorno_));
+  llenar(LeerListaProductos(entorno_, *ModeloDe(c_.marcos.lstProductos)));
 }
 
 void ListaProductosForm::MostrarListaProductos(const QString& tipo) {
-  llenar(LeerListaProductosPorTipo(entorno_, tipo));
+  llenar(LeerListaProductosPorTipo(entorno_, *ModeloDe(c_.marcos.lstProductos), tipo));
 }
 
 void ListaProductosForm::lstProductosDobleClick() {

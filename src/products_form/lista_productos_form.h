@@ -32,7 +32,7 @@ class ListaProductosForm : public QObject {
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:
-  void llenar(std::optional<LineasProductos> lineas);
+  void llenar(bool hayLista);
 
   Entorno& entorno_;
   ControlesFormulario& c_;

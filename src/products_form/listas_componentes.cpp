@@ -31,7 +31,9 @@ void ListasComponentes::conectar(Modos& modos) {
 
 void ListasComponentes::cargar(QListView* lista, const QString& sentencia) {
   try {
-    ModeloDe(lista)->poner(LineasDeProductos(entorno_, sentencia));
+    ModeloDe(lista)->leer(*entorno_.ConexionBD, sentencia, [this](const QString& fallo) {
+      entorno_.RegistrarError(kContextoListasComponentes, fallo);
+    });
   } catch (const ErrorBD& e) {
     entorno_.RegistrarError(kContextoListasComponentes, e.descripcion());
   }

@@ -26,13 +26,10 @@ QString LineaLista(const QString& nombre, const QString& codigo, int blancos = k
 // The code of a product line: its last 10 characters without surrounding blanks.
 QString CodigoDeLineaLista(const QString& linea);
 
-// The list lines of the products a statement returns; database failures are left to the caller.
-LineasProductos LineasDeProductos(Entorno& entorno, const QString& sentencia);
-
-// The lines of the pop-up list of every live product, by name. With no product the notice
-// "No hay productos dados de alta." is shown and there is no list to show; a database failure
-// is logged and there is none either.
-std::optional<LineasProductos> LeerListaProductos(Entorno& entorno);
+// Fills the pop-up list with the lines of every live product, by name; false when there is no
+// list to show: with no product the notice "No hay productos dados de alta." is shown, and a
+// database failure is logged.
+bool LeerListaProductos(Entorno& entorno, ModeloLineas& lista);
 // The same for the products of one kind: "cocina" lists the kitchen and bar products of
 // internal use (tipoprod = 0), any other word the products for sale (tipoprod > 0).
-std::optional<LineasProductos> LeerListaProductosPorTipo(Entorno& entorno, const QString& tipo);
+bool LeerListaProductosPorTipo(Entorno& entorno, ModeloLineas& lista, const QString& tipo);

@@ -594,8 +594,9 @@ void TestAlta::unFalloDeLaBaseSeRegistraConSuContexto() {
   QCOMPARE(ValorPonerOrden(e), std::nullopt);
   QCOMPARE(ValorMensajeNumero(e, 1), std::nullopt);
   QVERIFY(!bcomprobarSiExisteDescNumerica(e, u"4"_s, 1, true).existe);
-  QCOMPARE(LeerListaProductos(e), std::nullopt);
-  QCOMPARE(LeerListaProductosPorTipo(e, u"barra"_s), std::nullopt);
+  ModeloLineas lista;
+  QVERIFY(!LeerListaProductos(e, lista));
+  QVERIFY(!LeerListaProductosPorTipo(e, lista, u"barra"_s));
   const ImpresorasDisponibles impresoras = CargarImpresorasDisponibles(e);
   QVERIFY(impresoras.cantidad == 0 && !impresoras.mostrarBotones);
   QCOMPARE(Contextos(prueba),
