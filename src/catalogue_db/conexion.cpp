@@ -32,7 +32,20 @@ void FuncionVal(sqlite3_context* contexto, int, sqlite3_value** argumentos) {
     return;
   }
   const auto* texto = reinterpret_cast<const char*>(sqlite3_value_text(argumentos[0]));
-  sqlite3_result_double(contexto, ValJet(QString::fromUtf8(texto ? texto : "")));
+  const int largo = sqlite3_value_bytes(argumentos[0]);
+  // A product's code is a few digits: read as they stand, for the largest code's sort reads
+  // every code of the catalogue. 15 digits are exact in a double.
+  if (texto && largo > 0 && largo <= 15) {
+    double valor = 0;
+    int i = 0;
+    while (i < largo && texto[i] >= '0' && texto[i] <= '9')
+      valor = valor * 10 + (texto[i++] - '0');
+    if (i == largo) {
+      sqlite3_result_double(contexto, valor);
+      return;
+    }
+  }
+  sqlite3_result_double(contexto, ValJet(QString::fromUtf8(texto ? texto : "", largo)));
 }
 
 // Waiting for SQLite's write lock. SQLite's own busy timeout polls with sleeps of up to 100 ms,

@@ -50,8 +50,11 @@ QList<Tabla> CrearTablasPrincipales() {
              Bo(u"Borrar"_s)},
             {u"codigo"_s},
             // The lists go by name, so that the first rows come without sorting the catalogue;
-            // the till's panels go by family.
-            {u"nombre"_s, u"seccion"_s}});
+            // the till's panels go by family and place; a new product's place and number on the
+            // till are the largest of the live products' ones. No index leads with "borrar": the
+            // engine would take it for the lists, and sort the catalogue again.
+            {u"nombre"_s, u"seccion, orden"_s, u"orden, borrar"_s,
+             u"descnumerica, borrar, mostrarencaja"_s}});
   t.append({u"stock"_s,
             {{u"Producto"_s, T::Entero, true},
              Do(u"Stock"_s),
@@ -222,9 +225,10 @@ QStringList SentenciasCrearEsquema(const QList<Tabla>& tablas, Motor motor) {
     if (!t.clave.isEmpty())
       partes.append(u"primary key ("_s + t.clave.join(u", "_s) + u')');
     sentencias.append(u"create table "_s + t.nombre + u" ("_s + partes.join(u", "_s) + u')');
-    for (const QString& columna : t.indices) {
-      sentencias.append(u"create index "_s + t.nombre + u'_' + columna + u" on "_s + t.nombre +
-                        u" ("_s + columna + u')');
+    for (const QString& columnas : t.indices) {
+      sentencias.append(u"create index "_s + t.nombre + u'_' +
+                        QString(columnas).replace(u", "_s, u"_"_s) + u" on "_s + t.nombre +
+                        u" ("_s + columnas + u')');
     }
   }
   return sentencias;

@@ -28,8 +28,8 @@ struct Tabla {
   QString nombre;
   QList<Columna> columnas;
   QStringList clave;  // empty: rows are found by all their columns
-  // Columns looked up often enough to keep an index on (one index each); an index changes no
-  // statement and no result, only how fast the engine finds the rows.
+  // Columns looked up often enough to keep an index on ("a" or "a, b": one index each); an index
+  // changes no statement and no result, only how fast the engine finds the rows.
   QStringList indices = {};
 
   const Columna* columna(const QString& nombre) const;
