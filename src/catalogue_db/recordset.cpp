@@ -37,7 +37,10 @@ Recordset::Recordset(Conexion& conexion, const QString& sentencia)
 }
 
 Recordset::~Recordset() {
-  conexion_->olvidarLectura(this);
+  // Only a recordset still reading is in its connection's notes; a connection that closes reads
+  // them all first, so that one that outlives it has nothing to tell it.
+  if (cursor_)
+    conexion_->olvidarLectura(this);
 }
 
 void Recordset::leer() {
@@ -542,8 +545,9 @@ void Recordset::requery() {
 
 void Recordset::close() {
   abierto_ = false;
+  if (cursor_)
+    conexion_->olvidarLectura(this);
   cursor_.reset();
-  conexion_->olvidarLectura(this);
   lectura_ = Lectura::Leida;
   filas_.clear();
   vivas_ = 0;
