@@ -42,6 +42,7 @@
 #include "entorno.h"
 #include "frm_productos.h"
 #include "instalacion.h"
+#include "lector_filas.h"
 #include "panel_obj_nuevo.h"
 #include "paneles.h"
 #include "principal.h"
@@ -156,7 +157,9 @@ double Mediana(std::vector<double> v) {
 
 struct Medida {
   std::vector<double> suelo, programa;
+  std::vector<double> eventos;  // of the program's time, the events handled after the action
   size_t sentencias = 0;
+  qint64 filas = 0;  // rows read by the action itself
 };
 
 // ---- The form, as a manager drives it -----------------------------------------------------------
@@ -203,10 +206,14 @@ class Banco {
     pausa();
     g_sentencias.clear();
     g_grabando = true;
+    const qint64 filas = LectorFilas::filasLeidas();
     const auto a = Ahora();
     accion();
+    const auto hecha = Ahora();
+    m.filas = LectorFilas::filasLeidas() - filas;
     QApplication::processEvents();
     const auto b = Ahora();
+    m.eventos.push_back(b - hecha);
     g_grabando = false;
     const std::vector<std::string> sentencias = std::move(g_sentencias);
     if (g_verSentencias) {
@@ -227,6 +234,7 @@ class Banco {
     cerrar();
     g_sentencias.clear();
     g_grabando = m != nullptr;
+    const qint64 filas = LectorFilas::filasLeidas();
     const auto a = Ahora();
     entorno_ = std::make_unique<Entorno>(Instalacion::Cargar(carpeta_), dialogos_);
     Main(*entorno_, [&] {
@@ -234,6 +242,7 @@ class Banco {
       forma_->show();
     });
     pulsar(u"cmd_ProdGenerico"_s);
+    const qint64 leidas = LectorFilas::filasLeidas() - filas;
     QApplication::processEvents();
     const auto b = Ahora();
     g_grabando = false;
@@ -248,6 +257,7 @@ class Banco {
     m->programa.push_back(b - a);
     m->suelo.push_back(d - c);
     m->sentencias = sentencias.size();
+    m->filas = leidas;
     if (resto) {
       const auto e = Ahora();
       pausa();
@@ -418,8 +428,10 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "bench_formulario: %s\n", e.what());
     return 1;
   }
-  std::printf("median %s ms: floor / program (ratio), statements per action\n\n",
-              g_cpu ? "CPU" : "wall");
+  std::printf(
+      "median %s ms: floor / program (ratio, statements and rows the action read, and of the "
+      "program's time the events handled after it: painting, a slice of idle reading)\n\n",
+      g_cpu ? "CPU" : "wall");
   std::printf("| action |");
   for (int n : tamanos)
     std::printf(" %d |", n);
@@ -434,7 +446,8 @@ int main(int argc, char** argv) {
       if (m.suelo.empty())
         std::printf(" – / %.2f |", p);
       else
-        std::printf(" %.2f / %.2f (%.2f×, %zu st) |", s, p, s > 0 ? p / s : 0.0, m.sentencias);
+        std::printf(" %.2f / %.2f (%.2f×, %zu st, %lld rows, ev %.2f) |", s, p, s > 0 ? p / s : 0.0,
+                    m.sentencias, static_cast<long long>(m.filas), Mediana(m.eventos));
     }
     std::printf("\n");
   }

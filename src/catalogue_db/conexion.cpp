@@ -362,9 +362,16 @@ void Conexion::anotarLectura(LecturaPendiente* lectura) {
   lecturas_.insert(lectura);
   if (pausaPedida_ || !QCoreApplication::instance())
     return;
+  pedirPausa();
+}
+
+// A timer, not a queued call: Qt runs queued calls in the same pass as the events queued before
+// them (the screen's painting among them) and those queued while it runs them, so that a chain
+// of slices would read every row before the next click is looked at. A timer's turn comes after
+// the other events of the loop's pass.
+void Conexion::pedirPausa() {
   pausaPedida_ = true;
-  QMetaObject::invokeMethod(
-      &contexto_, [this] { leerEnPausa(); }, Qt::QueuedConnection);
+  QTimer::singleShot(1, &contexto_, [this] { leerEnPausa(); });
 }
 
 void Conexion::olvidarLectura(LecturaPendiente* lectura) {
@@ -400,10 +407,8 @@ void Conexion::leerEnPausa() {
       olvidarLectura(lectura);  // as in terminarLecturas()
     }
   }
-  if (!lecturas_.isEmpty()) {
-    pausaPedida_ = true;
-    QTimer::singleShot(0, &contexto_, [this] { leerEnPausa(); });
-  }
+  if (!lecturas_.isEmpty())
+    pedirPausa();
 }
 
 Transaccion::Transaccion(Conexion& conexion, const QString& serializarEn) : conexion_(conexion) {

@@ -100,6 +100,7 @@ class Conexion {
   QSqlQuery correr(const QString& texto);
   void despuesDeAbrir(const QString& rutaArchivo);
   void fallar(const QString& descripcion);
+  void pedirPausa();
   void leerEnPausa();
 
   QString nombre_;
