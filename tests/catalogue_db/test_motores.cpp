@@ -445,6 +445,11 @@ void TestMotores::recordset() {
   rs.setField(u"nombre"_s, u"Tinto"_s);
   QVERIFY_THROWS_EXCEPTION(ErrorBD, rs.update());
   QVERIFY_THROWS_EXCEPTION(ErrorBD, rs.setField(u"coste"_s, u"12,5"_s));
+  // Rows not yet walked are those of the moment the statement ran, whatever is written after.
+  Recordset antes(c, u"select * from productos order by codigo"_s);
+  QCOMPARE(antes.field(u"codigo"_s), u"1"_s);
+  c.ejecutar(u"insert into productos (codigo, nombre, borrar) values ('4', 'Zumo', 0)"_s);
+  QCOMPARE(antes.recordCount(), 1);
 
   c.ejecutar(
       u"insert into productoproveedor (producto, proveedor, coste) values "
