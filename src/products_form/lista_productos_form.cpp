@@ -60,5 +60,4 @@ void ListaProductosForm::lstProductosDobleClick() {
     return;
   visualizacion_.MostrarCodigo(CodigoDeLineaLista(linea.data().toString()));
   m.frListaProductos->hide();
-  HacerListaTactil(m.lstProductos);
 }
