@@ -92,9 +92,9 @@ class Conexion {
   void anotarLectura(LecturaPendiente* lectura);
   void olvidarLectura(LecturaPendiente* lectura);
   bool hayLecturasPendientes() const { return !lecturas_.isEmpty(); }
-  void terminarLecturas();
 
  private:
+  void terminarLecturas();
   QString textoParaMotor(const QString& sentencia) const;
   void comprobarUnaSentencia(const QString& texto) const;
   QSqlQuery correr(const QString& texto);

@@ -28,10 +28,11 @@ QMetaType TipoDeclarado(sqlite3_stmt* sentencia, int i) {
   return QMetaType::fromType<QString>();
 }
 
-// A column of the current row as Qt's SQLite driver gives it: integers as qlonglong, reals as
-// double, text as QString, blobs as QByteArray, NULL as a null QString.
-QVariant ValorSQLite(sqlite3_stmt* sentencia, int i) {
-  switch (sqlite3_column_type(sentencia, i)) {
+// A column of the current row, of the given SQLite type, as Qt's SQLite driver gives it:
+// integers as qlonglong, reals as double, text as QString, blobs as QByteArray, NULL as a null
+// QString.
+QVariant ValorSQLite(sqlite3_stmt* sentencia, int i, int tipo) {
+  switch (tipo) {
     case SQLITE_INTEGER:
       return QVariant(static_cast<qlonglong>(sqlite3_column_int64(sentencia, i)));
     case SQLITE_FLOAT:
@@ -47,8 +48,8 @@ QVariant ValorSQLite(sqlite3_stmt* sentencia, int i) {
   }
 }
 
-void FallarSQLite(sqlite3_stmt* sentencia) {
-  throw ErrorBD(QString::fromUtf8(sqlite3_errmsg(sqlite3_db_handle(sentencia))));
+QString ErrorSQLite(sqlite3_stmt* sentencia) {
+  return QString::fromUtf8(sqlite3_errmsg(sqlite3_db_handle(sentencia)));
 }
 
 }  // namespace
@@ -67,12 +68,9 @@ LectorFilas::LectorFilas(Conexion& conexion, const QString& sentencia)
   // The statement runs now, as when Qt's driver runs it: its errors come from here.
   primerPaso_ = sqlite3_step(sqlite_);
   if (primerPaso_ != SQLITE_ROW && primerPaso_ != SQLITE_DONE) {
-    try {
-      FallarSQLite(sqlite_);
-    } catch (...) {
-      sqlite3_finalize(sqlite_);
-      throw;
-    }
+    const QString error = ErrorSQLite(sqlite_);
+    sqlite3_finalize(sqlite_);
+    throw ErrorBD(error);
   }
 }
 
@@ -94,7 +92,7 @@ bool LectorFilas::siguiente() {
     }
     terminado_ = true;
     if (paso != SQLITE_DONE) {
-      fallo_ = QString::fromUtf8(sqlite3_errmsg(sqlite3_db_handle(sqlite_)));
+      fallo_ = ErrorSQLite(sqlite_);
       throw ErrorBD(fallo_);
     }
     return false;
@@ -120,18 +118,24 @@ QVariant LectorFilas::field(const QString& nombre) const {
 }
 
 QVariant LectorFilas::valor(int indice) const {
-  return sqlite_ ? ValorSQLite(sqlite_, indice) : filas_.value(indice);
+  return sqlite_ ? ValorSQLite(sqlite_, indice, sqlite3_column_type(sqlite_, indice))
+                 : filas_.value(indice);
 }
 
 void LectorFilas::agregarFila(QByteArray& bloque, int desde) const {
   for (int i = desde; i < campos_.count(); ++i) {
-    if (sqlite_ && sqlite3_column_type(sqlite_, i) == SQLITE_TEXT) {
+    if (!sqlite_) {
+      FilaCompacta::agregar(bloque, filas_.value(i));
+      continue;
+    }
+    const int tipo = sqlite3_column_type(sqlite_, i);
+    if (tipo == SQLITE_TEXT) {
       // SQLite's own UTF-8, copied as it is: made a QString only if it is read.
       FilaCompacta::agregarUtf8(bloque,
                                 reinterpret_cast<const char*>(sqlite3_column_text(sqlite_, i)),
                                 sqlite3_column_bytes(sqlite_, i));
     } else {
-      FilaCompacta::agregar(bloque, valor(i));
+      FilaCompacta::agregar(bloque, ValorSQLite(sqlite_, i, tipo));
     }
   }
 }

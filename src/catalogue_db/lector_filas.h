@@ -9,11 +9,10 @@
 class Conexion;
 struct sqlite3_stmt;
 
-// The rows of a statement read one at a time, forward, and none kept: for the readers that
-// want a column or two of many rows (a list of the catalogue, the largest code), which a
-// recordset would hold whole, every column of every row. Fields are found by name ignoring
-// letter case, as a recordset finds them, and come as Qt's driver of the engine gives them.
-// Failures throw ErrorBD.
+// The rows of a statement read one at a time, forward, and none kept: the cursor that a
+// recordset or a list box fills itself from, and the reader of those that want a column or two
+// of many rows (the largest code). Fields are found by name ignoring letter case, as a recordset
+// finds them, and come as Qt's driver of the engine gives them. Failures throw ErrorBD.
 //
 // On SQLite the statement is stepped on SQLite's own handle and only the fields asked for are
 // converted: Qt's driver converts every column of every row, which for "select *" over the

@@ -36,21 +36,18 @@ bool ListaProductosForm::eventFilter(QObject* objeto, QEvent* evento) {
   return QObject::eventFilter(objeto, evento);
 }
 
-void ListaProductosForm::llenar(bool hayLista) {
-  if (hayLista)
-    MostrarMarco(c_.marcos.frListaProductos);
-}
-
 void ListaProductosForm::cmd_ListaProdClick() {
   if (!c_.marcos.frListaProductos->isHidden()) {
     c_.marcos.frListaProductos->hide();
     return;
   }
-  llenar(LeerListaProductos(entorno_, *ModeloDe(c_.marcos.lstProductos)));
+  if (LeerListaProductos(entorno_, *ModeloDe(c_.marcos.lstProductos)))
+    MostrarMarco(c_.marcos.frListaProductos);
 }
 
 void ListaProductosForm::MostrarListaProductos(const QString& tipo) {
-  llenar(LeerListaProductosPorTipo(entorno_, *ModeloDe(c_.marcos.lstProductos), tipo));
+  if (LeerListaProductosPorTipo(entorno_, *ModeloDe(c_.marcos.lstProductos), tipo))
+    MostrarMarco(c_.marcos.frListaProductos);
 }
 
 void ListaProductosForm::lstProductosDobleClick() {

@@ -3,7 +3,6 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <optional>
 
 #include "lineas_productos.h"
 #include "pantallas.h"
@@ -32,8 +31,6 @@ class ListaProductosForm : public QObject {
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:
-  void llenar(bool hayLista);
-
   Entorno& entorno_;
   ControlesFormulario& c_;
   Visualizacion& visualizacion_;

@@ -92,6 +92,13 @@ QString ImpresoraElegida(FormularioPrueba& f) {
   return f.forma().estado().impresoraElegida;
 }
 
+// n products named "Producto 0001" onwards, coded 1 onwards.
+QString CatalogoDe(int n) {
+  return u"with recursive n(i) as (select 1 union all select i + 1 from n where i < %1) insert "
+         "into productos (codigo, nombre, borrar, tipoprod) select i, 'Producto ' || "
+         "substr('000' || i, -4), 0, 1 from n"_s.arg(n);
+}
+
 }  // namespace
 
 class TestFormulario : public QObject {
@@ -483,12 +490,6 @@ void TestFormulario::soloSeConstruyenLasLineasALaVista_data() {
   QTest::newRow("Lista") << QStringList{u"cmd_ProdGenerico"_s, u"cmd_ListaProd"_s}
                          << u"lstProductos"_s;
   QTest::newRow("componentes") << QStringList{u"cmd_ProdElaborado"_s} << u"lb_Productos"_s;
-}
-
-QString CatalogoDe(int n) {
-  return u"with recursive n(i) as (select 1 union all select i + 1 from n where i < %1) insert "
-         "into productos (codigo, nombre, borrar, tipoprod) select i, 'Producto ' || "
-         "substr('000' || i, -4), 0, 1 from n"_s.arg(n);
 }
 
 void TestFormulario::soloSeConstruyenLasLineasALaVista() {
